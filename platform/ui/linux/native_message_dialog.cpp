@@ -1,0 +1,63 @@
+#include "platform/ui/native_message_dialog.h"
+
+#include <gtk/gtk.h>
+
+namespace platform::ui {
+
+namespace {
+
+const char* IconName(long style) {
+    if ((style & wxICON_ERROR) != 0) {
+        return "dialog-error";
+    }
+    if ((style & wxICON_QUESTION) != 0) {
+        return "dialog-question";
+    }
+    if ((style & wxICON_EXCLAMATION) != 0) {
+        return "dialog-warning";
+    }
+    return (style & wxICON_INFORMATION) != 0 ? "dialog-information" : nullptr;
+}
+
+// What the hook below needs, and whether it has done its work.
+struct Pending {
+    const char* iconName = nullptr;
+    bool done = false;
+};
+
+// GTK creates the box inside ShowModal, so its icon is put in when it is about to be seen.
+gboolean OnShow(GSignalInvocationHint* /*hint*/, guint /*count*/, const GValue* values,
+                gpointer data) {
+    auto* const widget = static_cast<GtkWidget*>(g_value_get_object(values));
+    if (!GTK_IS_MESSAGE_DIALOG(widget)) {
+        return TRUE;
+    }
+    auto* const pending = static_cast<Pending*>(data);
+    GtkWidget* const image = gtk_image_new_from_icon_name(pending->iconName, GTK_ICON_SIZE_DIALOG);
+    gtk_widget_set_valign(image, GTK_ALIGN_START);
+    gtk_widget_show(image);
+    G_GNUC_BEGIN_IGNORE_DEPRECATIONS
+    gtk_message_dialog_set_image(GTK_MESSAGE_DIALOG(widget), image);
+    G_GNUC_END_IGNORE_DEPRECATIONS
+    pending->done = true;
+    return FALSE; // takes the hook away
+}
+
+} // namespace
+
+int NativeMessageDialog::ShowModal() {
+    Pending pending{IconName(GetMessageDialogStyle())};
+    if (pending.iconName == nullptr) {
+        return wxMessageDialog::ShowModal();
+    }
+    const guint signal = g_signal_lookup("show", GTK_TYPE_WIDGET);
+    const gulong hook = g_signal_add_emission_hook(signal, 0, OnShow, &pending, nullptr);
+    const int answer = wxMessageDialog::ShowModal();
+    // A box that was answered without being shown leaves the hook in place.
+    if (!pending.done) {
+        g_signal_remove_emission_hook(signal, hook);
+    }
+    return answer;
+}
+
+} // namespace platform::ui

@@ -1,0 +1,7 @@
+#include "platform/ui/several_lines.h"
+
+namespace platform::ui {
+
+void AllowSeveralLines(wxWindow& /*button*/) {}
+
+} // namespace platform::ui
