@@ -1,0 +1,15 @@
+// The questions that deployment has for its host, answered also when there is none.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace modDeployment {
+
+std::string DeploymentFolder();
+std::string SourceFolder();
+bool IncludesMDAC();
+bool IsMDACVersionSelected(int index);
+void Advance(std::string_view label);
+
+} // namespace modDeployment
