@@ -1,0 +1,120 @@
+// The command bar: menus, toolbar and the one handler behind them.
+#include "files/about.h"
+#include "platform/ui/control_name.h"
+#include "platform/ui/menu_key.h"
+#include "wizard/commands.h"
+#include "wizard/help.h"
+#include "wizard/icons.h"
+#include "wizard/wizard.h"
+
+#include <wx/menu.h>
+#include <wx/toolbar.h>
+
+void frmWizard::CreateCommandBar() {
+    const auto idOf = [this](std::string_view tool) {
+        const auto [found, added] = toolIds_.try_emplace(std::string(tool), 0);
+        if (added) {
+            found->second = wxWindow::NewControlId();
+            Bind(
+                wxEVT_MENU,
+                [this, name = found->first](wxCommandEvent&) { ssaQueueshift_ToolClick(name); },
+                found->second);
+        }
+        return found->second;
+    };
+    auto* const bar = new wxMenuBar;
+    bar->SetName("Queueshift INI Editor");
+    for (const modWizard::Menu& menu : modWizard::Menus()) {
+        auto* const entries = new wxMenu;
+        for (const modWizard::MenuEntry& entry : menu.entries) {
+            if (entry.tool.empty()) {
+                entries->AppendSeparator();
+                continue;
+            }
+            wxString text = entry.caption;
+            if (*entry.accelerator != '\0') {
+                text << '\t' << entry.accelerator;
+            }
+            entries->Append(idOf(entry.tool), text);
+        }
+        bar->Append(entries, menu.caption);
+    }
+    SetMenuBar(bar);
+
+    wxToolBar* const tools = CreateToolBar(wxTB_HORIZONTAL | wxTB_FLAT);
+    platform::ui::NameControl(*tools, "Queueshift INI EditorToolbar", "Toolbar");
+    for (const modWizard::ToolButton& button : modWizard::ToolButtons()) {
+        if (button.tool.empty()) {
+            tools->AddSeparator();
+        } else {
+            tools->AddTool(idOf(button.tool), button.label, modWizard::ToolImage(button.tool),
+                           button.hint);
+        }
+    }
+    tools->Realize();
+}
+
+void frmWizard::ssaQueueshift_ToolClick(std::string_view tool) {
+    if (tool == "ID_BTN_NEW") {
+        modINIFile::NewINIFile();
+        RefreshCaption();
+    } else if (tool == "ID_BTN_OPEN") {
+        modINIFile::OpenINIFile();
+        RefreshCaption();
+    } else if (tool == "ID_BTN_SAVE") {
+        if (CanSaveDocument()) {
+            modINIFile::SaveINIFile();
+        }
+        RefreshCaption();
+    } else if (tool == "ID_BTN_SAVE_AS") {
+        if (CanSaveDocument()) {
+            modINIFile::SaveINIFileAs();
+        }
+        RefreshCaption();
+    } else if (tool == "ID_BTN_EXIT") {
+        Close();
+    } else if (tool == "ID_BTN_CONTENTS") {
+        modWizard::ShowHelpContents();
+    } else if (tool == "ID_BTN_ABOUT") {
+        frmAbout(this).ShowModal();
+    } else if (const int page = modWizard::PageOfTool(tool, UsesActiveDirectory()); page >= 0) {
+        ShowPage(page);
+        Prepare(modWizard::Pages()[static_cast<std::size_t>(page)].shown);
+    }
+}
+
+void frmWizard::cmdHelp_Click(int index) {
+    ShowHelpContext(modWizard::HelpContext(index, UsesActiveDirectory()));
+}
+
+void frmWizard::ShowHelpContext(int context) {
+    modWizard::ShowHelpContext(context);
+}
+
+// F1 asks about the page that is showing. A menu wins over a control that has its access key.
+void frmWizard::OnKey(wxKeyEvent& event) {
+    const bool access = event.GetModifiers() == wxMOD_ALT;
+    if (event.GetKeyCode() == WXK_F1 && !event.HasAnyModifiers()) {
+        cmdHelp_Click(sstWizard->GetSelection());
+    } else if (!(access && platform::ui::OpenMenuByKey(*this, event.GetKeyCode())) &&
+               !RunAccelerator(event)) {
+        event.Skip();
+    }
+}
+
+// Before the controls see the key: in the tree and the lists of GTK Ctrl+N goes down a row.
+bool frmWizard::RunAccelerator(const wxKeyEvent& event) {
+    if (event.GetModifiers() != wxMOD_CONTROL) {
+        return false;
+    }
+    const wxString pressed = "Ctrl+" + wxString(wxUniChar(event.GetKeyCode()));
+    for (const modWizard::Menu& menu : modWizard::Menus()) {
+        for (const modWizard::MenuEntry& entry : menu.entries) {
+            if (pressed == entry.accelerator) {
+                ProcessCommand(toolIds_.at(std::string(entry.tool)));
+                return true;
+            }
+        }
+    }
+    return false;
+}
