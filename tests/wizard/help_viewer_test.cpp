@@ -1,0 +1,135 @@
+// The help viewer as a window: where it opens, when it closes, and what it says without a book.
+#include "tests/wizard/help_fixture.h"
+
+#include "files/new_ini.h"
+
+#include <wx/treectrl.h>
+
+namespace window_test {
+namespace {
+
+using HelpViewer = HelpTest;
+using modWizard::HelpDialog;
+using modWizard::HelpFrame;
+
+TEST_F(HelpViewer, NoNumberMeansTheLastOne) {
+    modWizard::ShowHelpContext(2030);
+    modWizard::ShowHelpContents();
+    modWizard::ShowHelpContext(-1);
+    EXPECT_EQ(ShownTitle(), "Drivers");
+}
+
+TEST_F(HelpViewer, ANumberWithoutTopicIsTold) {
+    ModalScript dialogs;
+    ExpectComplaint(dialogs, "The help file " + BookPath() + " has no topic 4711.");
+    modWizard::ShowHelpContext(4711);
+}
+
+TEST_F(HelpViewer, AMissingBookIsTold) {
+    RemoveBook();
+    Start(kActiveDirectory);
+    ModalScript dialogs;
+    ExpectComplaint(dialogs, "The help file " + BookPath() + " could not be found.");
+    Push(window, "cmdHelp(0)");
+    EXPECT_EQ(Viewer(), nullptr);
+    ExpectComplaint(dialogs, "The help file " + BookPath() + " could not be found.");
+    modWizard::ShowHelpContents();
+    EXPECT_EQ(Viewer(), nullptr);
+}
+
+TEST_F(HelpViewer, ABookThatIsNoneIsTold) {
+    for (const std::string& bytes : {std::string(), std::string("no book"),
+                                     test::ReadBytes(QUEUESHIFT_HELP_BOOK).substr(0, 9000)}) {
+        test::WriteBytes(BookPath(), bytes);
+        ModalScript dialogs;
+        ExpectComplaint(dialogs, "The help file " + BookPath() + " could not be opened.");
+        modWizard::ShowHelpContext(1013);
+        Pump();
+        EXPECT_EQ(Viewer(), nullptr);
+    }
+}
+
+TEST_F(HelpViewer, AMendedBookOpensInTheSameRun) {
+    {
+        test::WriteBytes(BookPath(), "no book");
+        ModalScript dialogs;
+        ExpectComplaint(dialogs, "The help file " + BookPath() + " could not be opened.");
+        modWizard::ShowHelpContext(1013);
+        Pump();
+    }
+    test::WriteBytes(BookPath(), test::ReadBytes(QUEUESHIFT_HELP_BOOK));
+    modWizard::ShowHelpContext(1013);
+    EXPECT_EQ(ShownTitle(), "General");
+}
+
+TEST_F(HelpViewer, AnOpenViewerNeedsTheFileNoMore) {
+    modWizard::ShowHelpContext(1013);
+    RemoveBook();
+    modWizard::ShowHelpContext(1045);
+    EXPECT_EQ(ShownTitle(), "Support");
+}
+
+TEST_F(HelpViewer, AskedAgainTheSameViewerComesToTheFront) {
+    Start(kActiveDirectory);
+    Show();
+    window->ShowHelpContext(1013);
+    HelpFrame* const viewer = Viewer();
+    BringToFront(viewer);
+    BringToFront(window);
+    window->ShowHelpContext(1045);
+    EXPECT_EQ(Viewer(), viewer);
+    WaitFor([viewer] { return viewer->IsActive(); }, "the viewer to come to the front");
+    EXPECT_EQ(ShownTitle(), "Support");
+}
+
+TEST_F(HelpViewer, EscapeClosesTheViewer) {
+    Start(kActiveDirectory);
+    Show();
+    window->ShowHelpContext(1013);
+    BringToFront(Viewer());
+    Press(WXK_ESCAPE);
+    WaitFor([] { return Viewer() == nullptr; }, "the viewer to close");
+    window->ShowHelpContext(1045);
+    EXPECT_EQ(ShownTitle(), "Support");
+}
+
+TEST_F(HelpViewer, TheViewerClosesWithTheMainWindow) {
+    Start(kActiveDirectory);
+    Show();
+    window->ShowHelpContext(1013);
+    EXPECT_FALSE(Viewer()->ShouldPreventAppExit());
+    window->Close();
+    WaitFor([this] { return window == nullptr; }, "the window to close");
+    EXPECT_EQ(Viewer(), nullptr);
+}
+
+TEST_F(HelpViewer, OverTheNewDocumentDialogTheViewerIsUsable) {
+    Start(kActiveDirectory);
+    Show();
+    ModalScript dialogs;
+    std::string title;
+    std::string chosen;
+    dialogs.ExpectLive<frmNewINI>([](frmNewINI& dialog) {
+        ClickOn(dialog.cmdHelp);
+        ClickOn(dialog.cmdCancel);
+    });
+    dialogs.ExpectLive<HelpDialog>([&](HelpDialog& viewer) {
+        title = viewer.pane->TopicTitle().utf8_string();
+        wxTreeCtrl* const tree = viewer.pane->GetTreeCtrl();
+        wxTreeItemIdValue cookie{};
+        wxRect row;
+        tree->GetBoundingRect(tree->GetFirstChild(tree->GetRootItem(), cookie), row, true);
+        ClickOn(tree, row.GetPosition() + row.GetSize() / 2);
+        WaitFor([&] { return viewer.pane->TopicTitle().utf8_string() != title; },
+                "the topic to change");
+        chosen = viewer.pane->TopicTitle().utf8_string();
+        Press(WXK_ESCAPE);
+    });
+    window->ssaQueueshift_ToolClick("ID_BTN_NEW");
+    EXPECT_EQ(title, "New or Existing Document");
+    EXPECT_EQ(chosen, "Queueshift Help");
+    EXPECT_EQ(Viewer(), nullptr);
+}
+
+} // namespace
+} // namespace window_test
