@@ -53,8 +53,9 @@ else()
     target_link_directories(qs::wx INTERFACE ${wxWidgets_LIBRARY_DIRS})
     target_link_libraries(qs::wx INTERFACE ${wxWidgets_LIBRARIES})
 
-    # LDAP with SASL and the SMB client: what the directory and UNC paths stand on.
+    # LDAP, Kerberos, winbind and the SMB client: what the directory and UNC paths stand on.
     pkg_check_modules(LDAP REQUIRED IMPORTED_TARGET ldap lber)
-    pkg_check_modules(SMB REQUIRED IMPORTED_TARGET smbclient)
-    target_link_libraries(qs::system INTERFACE PkgConfig::LDAP PkgConfig::SMB)
+    pkg_check_modules(SMB REQUIRED IMPORTED_TARGET smbclient wbclient)
+    target_link_libraries(qs::system INTERFACE PkgConfig::LDAP PkgConfig::SMB
+        gssapi_krb5 krb5 resolv)
 endif()

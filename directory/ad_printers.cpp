@@ -1,13 +1,18 @@
 #include "directory/ad_printers.h"
 
+#include "directory/queue_item.h"
+#include "document/product.h"
 #include "platform/message.h"
-#include "platform/system_error.h"
 #include "platform/ui/pump.h"
+#include "platform/ui/text.h"
+
+#include <algorithm>
+#include <type_traits> // the toolkit's weak reference uses it unasked
+#include <utility>
 
 #include <wx/gauge.h>
 #include <wx/odcombo.h>
-
-#include <cerrno>
+#include <wx/weakref.h>
 
 namespace modADPrinters {
 
@@ -15,40 +20,196 @@ namespace {
 
 constexpr int kSteps = 50;
 
-void ShowDirectoryError(const std::string& what, const platform::SystemError& error) {
+std::function<std::string()> g_domainSource;
+ServiceMaker g_serviceMaker;
+std::function<void()> g_whenNoQueryRuns;
+
+std::unique_ptr<platform::DirectoryService> MakeService(platform::KeepWaiting keepWaiting) {
+    return g_serviceMaker ? g_serviceMaker(std::move(keepWaiting))
+                          : platform::MakeDirectoryService(std::move(keepWaiting));
+}
+
+/// One call of FillADPrinterList, for as long as it lasts.
+class Query {
+public:
+    Query(wxOwnerDrawnComboBox& list, wxGauge& progress);
+    ~Query();
+    Query(const Query&) = delete;
+    Query& operator=(const Query&) = delete;
+
+    void Run();
+    void Abandon() { wanted_ = false; }
+
+private:
+    bool FetchRecords();
+    void AddItems();
+    void Finish();
+    void Report(const std::string& what);
+    bool Step();
+
+    [[nodiscard]] bool Wanted() const {
+        return wanted_ && list_.get() != nullptr && progress_.get() != nullptr;
+    }
+
+    wxWeakRef<wxOwnerDrawnComboBox> list_;
+    wxWeakRef<wxGauge> progress_;
+    bool wanted_ = true;
+    bool superseded_ = false;
+    std::unique_ptr<platform::DirectoryService> service_;
+};
+
+/// Those under way, the innermost last.
+std::vector<Query*> g_queries;
+
+Query::Query(wxOwnerDrawnComboBox& list, wxGauge& progress)
+    : list_(&list), progress_(&progress), service_(MakeService([this] {
+          platform::ui::PumpEventsWhenDue();
+          return Wanted();
+      })) {
+    for (Query* earlier : g_queries) {
+        if (earlier->list_.get() == &list) {
+            earlier->wanted_ = false;
+            earlier->superseded_ = true;
+        }
+    }
+    g_queries.push_back(this);
+}
+
+Query::~Query() {
+    std::erase(g_queries, this);
+    if (g_queries.empty() && g_whenNoQueryRuns) {
+        std::exchange(g_whenNoQueryRuns, nullptr)();
+    }
+}
+
+bool Query::Step() {
+    if (Wanted()) {
+        StepADProgress(*progress_);
+    }
+    return Wanted();
+}
+
+void Query::Run() {
+    progress_->SetRange(kSteps);
+    progress_->SetValue(1);
+    progress_->Show();
+    list_->Clear();
+    if (Step() && FetchRecords()) {
+        AddItems();
+    }
+    Finish();
+}
+
+// Every step runs, whatever the ones before it did; the error is looked at in two places only.
+bool Query::FetchRecords() {
+    service_->Bind(g_domainSource ? g_domainSource() : std::string());
+    if (!Step()) {
+        return false;
+    }
+    if (service_->Error()) {
+        Report("Error accessing Active Directory. Please check your domain name and network "
+               "connection.");
+        return false;
+    }
+    service_->Connect();
+    if (!Step()) {
+        return false;
+    }
+    service_->Prepare();
+    if (!Step()) {
+        return false;
+    }
+    service_->Execute();
+    if (!Wanted()) {
+        return false;
+    }
+    platform::ShowMessage({std::to_string(service_->RecordCount()),
+                           std::string(product::kApplicationTitle), platform::Buttons::Ok,
+                           platform::Icon::None});
+    if (!Step()) {
+        return false;
+    }
+    if (service_->Error()) {
+        Report("Error querying Active Directory. Please check your domain name and network "
+               "connection.");
+        return false;
+    }
+    return true;
+}
+
+void Query::AddItems() {
+    QueueItem item;
+    while (!service_->AtEnd()) {
+        if (!Step()) {
+            return;
+        }
+        const std::string text = item.Next(service_->Value("name"));
+        // Read as every record's other attribute, though no item shows it.
+        service_->Value("printShareName");
+        list_->Append(platform::ui::ToWx(text));
+        service_->MoveNext();
+    }
+}
+
+void Query::Report(const std::string& what) {
+    const platform::SystemError& error = service_->Error();
     platform::ShowMessage({what + "\r\n\r\nError Number: " + std::to_string(error.number) +
                                "\r\nError Descritpion: " + error.description,
                            "Active Directory Error", platform::Buttons::Ok,
                            platform::Icon::Critical});
+    Step();
+}
+
+void Query::Finish() {
+    if (Wanted()) {
+        progress_->SetValue(kSteps);
+        platform::ui::PumpEvents();
+        if (Wanted()) {
+            progress_->Hide();
+            platform::ui::PumpEvents();
+        }
+        return;
+    }
+    // List and bar belong to the later query, or else nobody is to see half a list.
+    if (!superseded_ && list_.get() != nullptr && progress_.get() != nullptr) {
+        list_->Clear();
+        progress_->Hide();
+    }
 }
 
 } // namespace
 
 void StepADProgress(wxGauge& progress) {
     progress.SetValue(progress.GetValue() == kSteps ? 1 : progress.GetValue() + 1);
-    platform::ui::PumpEvents();
+    platform::ui::PumpEventsWhenDue();
 }
 
-// There is no directory service yet that could be bound, which is what the user is told.
-void FillADPrinterList(const std::string& /*domain*/, wxOwnerDrawnComboBox& list,
-                       wxGauge& progress) {
-    progress.SetRange(kSteps);
-    progress.SetValue(1);
-    progress.Show();
-    list.Clear();
-    StepADProgress(progress);
-    ShowDirectoryError("Error accessing Active Directory. Please check your domain name and "
-                       "network connection.",
-                       platform::SystemErrorFromNumber(ENOSYS));
-    StepADProgress(progress);
-    progress.SetValue(kSteps);
-    platform::ui::PumpEvents();
-    progress.Hide();
-    platform::ui::PumpEvents();
+void FillADPrinterList(wxOwnerDrawnComboBox& list, wxGauge& progress) {
+    Query(list, progress).Run();
+}
+
+void AbandonQueries() {
+    std::ranges::for_each(g_queries, &Query::Abandon);
+}
+
+void WhenNoQueryRuns(std::function<void()> action) {
+    if (g_queries.empty()) {
+        action();
+    } else {
+        g_whenNoQueryRuns = std::move(action);
+    }
+}
+
+void SetDomainSource(std::function<std::string()> source) {
+    g_domainSource = std::move(source);
+}
+
+void SetServiceMaker(ServiceMaker maker) {
+    g_serviceMaker = std::move(maker);
 }
 
 std::vector<std::string> DomainNames() {
-    return {};
+    return platform::DomainNames();
 }
 
 } // namespace modADPrinters

@@ -67,4 +67,13 @@ void AppendUtf8(std::string& text, char32_t character) {
     add(0x80 | (character & 0x3F));
 }
 
+std::string ValidUtf8(std::string_view text) {
+    std::string valid;
+    valid.reserve(text.size());
+    for (std::size_t at = 0; at < text.size();) {
+        AppendUtf8(valid, NextCharacter(text, at));
+    }
+    return valid;
+}
+
 } // namespace platform

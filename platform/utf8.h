@@ -17,4 +17,7 @@ char32_t NextCharacter(std::string_view utf8, std::size_t& at);
 /// Appends `character` in UTF-8. Surrogates and numbers above U+10FFFF become U+FFFD.
 void AppendUtf8(std::string& text, char32_t character);
 
+/// The text with U+FFFD for every run of bytes that is no UTF-8.
+std::string ValidUtf8(std::string_view text);
+
 } // namespace platform

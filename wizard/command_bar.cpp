@@ -1,4 +1,5 @@
 // The command bar: menus, toolbar and the one handler behind them.
+#include "directory/ad_printers.h"
 #include "files/about.h"
 #include "platform/ui/control_name.h"
 #include "platform/ui/menu_key.h"
@@ -9,6 +10,9 @@
 
 #include <wx/menu.h>
 #include <wx/toolbar.h>
+
+#include <algorithm>
+#include <array>
 
 void frmWizard::CreateCommandBar() {
     const auto idOf = [this](std::string_view tool) {
@@ -55,6 +59,12 @@ void frmWizard::CreateCommandBar() {
 }
 
 void frmWizard::ssaQueueshift_ToolClick(std::string_view tool) {
+    // What a query under way would fill belongs to the document of before.
+    constexpr std::array<std::string_view, 4> kFileTools{"ID_BTN_NEW", "ID_BTN_OPEN",
+                                                         "ID_BTN_SAVE", "ID_BTN_SAVE_AS"};
+    if (std::ranges::find(kFileTools, tool) != kFileTools.end()) {
+        modADPrinters::AbandonQueries();
+    }
     if (tool == "ID_BTN_NEW") {
         modINIFile::NewINIFile();
         RefreshCaption();

@@ -20,10 +20,6 @@ struct Picker {
     const wxListBox& colourSource;
 };
 
-void Fill(const wxComboBox& domain, const Picker& picker) {
-    modADPrinters::FillADPrinterList(editors::TextOf(domain), picker.list, picker.progress);
-}
-
 void PreparePicker(frmWizard& window, const Picker& picker) {
     const bool on = modINIDocument::g_Document.UseActiveDirectory == modINIDocument::kTrue;
     editors::EnableWithColour(picker.list, on,
@@ -41,7 +37,7 @@ void PreparePicker(frmWizard& window, const Picker& picker) {
          "printers?",
          "Refresh Printers", platform::Buttons::YesNo, platform::Icon::Question});
     if (answer == platform::Answer::Yes) {
-        Fill(domain, picker);
+        modADPrinters::FillADPrinterList(picker.list, picker.progress);
     }
     picker.domainChanged = false;
 }
@@ -54,7 +50,7 @@ void RefreshPicker(const frmWizard& window, const Picker& picker) {
              "Error, No Domain Name", platform::Buttons::Ok, platform::Icon::Exclamation});
         return;
     }
-    Fill(domain, picker);
+    modADPrinters::FillADPrinterList(picker.list, picker.progress);
     if (!picker.list.IsListEmpty()) {
         picker.list.SetSelection(0);
     }

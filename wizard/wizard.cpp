@@ -1,5 +1,6 @@
 #include "wizard/wizard.h"
 
+#include "directory/ad_printers.h"
 #include "document/document.h"
 #include "files/browse.h"
 #include "files/new_ini.h"
@@ -12,6 +13,7 @@
 
 #include <wx/app.h>
 #include <wx/splitter.h>
+#include <wx/weakref.h>
 
 using modINIDocument::g_bolDocumentChanged;
 using modINIDocument::g_Document;
@@ -56,11 +58,13 @@ frmWizard::frmWizard()
     Bind(wxEVT_CHAR_HOOK, &frmWizard::OnKey, this);
     modINIFile::SetWindow(this);
     modDeployment::SetHost(this);
+    modADPrinters::SetDomainSource([this] { return editors::TextOf(*activeDirectory->cboDomainName); });
 }
 
 frmWizard::~frmWizard() {
     modINIFile::SetWindow(nullptr);
     modDeployment::SetHost(nullptr);
+    modADPrinters::SetDomainSource(nullptr);
     g_frmWizard = nullptr;
 }
 
@@ -225,7 +229,14 @@ void frmWizard::Form_Unload(wxCloseEvent& event) {
         }
     }
     leaveChecks_->Forget();
-    Destroy();
+    // A query that lets this event run still stands on the window: it goes when that has returned.
+    modADPrinters::AbandonQueries();
+    Hide();
+    modADPrinters::WhenNoQueryRuns([window = wxWeakRef<frmWizard>(this)] {
+        if (window.get() != nullptr) {
+            window->Destroy();
+        }
+    });
 }
 
 // A save that did not happen leaves the work unsaved, and the window open with it.

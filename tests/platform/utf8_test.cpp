@@ -51,4 +51,10 @@ TEST(Utf8, WhatIsNoCharacterIsAppendedAsTheReplacement) {
     EXPECT_EQ(text, "\uFFFD\uFFFD");
 }
 
+TEST(Utf8, ATextIsMadeValidByReplacingWhatIsNoCharacter) {
+    EXPECT_EQ(platform::ValidUtf8("D\u00FCsseldorf"), "D\u00FCsseldorf");
+    EXPECT_EQ(platform::ValidUtf8("a\xFF\xE2\x82z"), "a\uFFFD\uFFFDz");
+    EXPECT_EQ(platform::ValidUtf8(""), "");
+}
+
 } // namespace

@@ -1,0 +1,104 @@
+#include "platform/linux/child_work.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <string_view>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+void WriteAll(int descriptor, std::string_view text) {
+    while (!text.empty()) {
+        const ssize_t written = write(descriptor, text.data(), text.size());
+        if (written < 0 && errno != EINTR) {
+            return;
+        }
+        text.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
+    }
+}
+
+// Ends without the exit handlers: they belong to the process that was copied.
+[[noreturn]] void RunChild(const std::function<std::string()>& work, int descriptor) {
+    int status = EXIT_FAILURE;
+    try {
+        WriteAll(descriptor, work());
+        status = EXIT_SUCCESS;
+    } catch (...) {
+        // Told by the status: there is nobody here to tell more.
+        status = EXIT_FAILURE;
+    }
+    _exit(status);
+}
+
+std::optional<std::string> ReadUntilEnd(int descriptor, Deadline deadline,
+                                        const KeepWaiting& keepWaiting) {
+    std::string text;
+    std::array<char, 4096> buffer{};
+    for (;;) {
+        if (!WaitForDescriptor(descriptor, POLLIN, deadline, keepWaiting)) {
+            return std::nullopt;
+        }
+        const ssize_t length = read(descriptor, buffer.data(), buffer.size());
+        if (length == 0) {
+            return text;
+        }
+        if (length > 0) {
+            text.append(buffer.data(), static_cast<std::size_t>(length));
+        } else if (errno != EINTR) {
+            return std::nullopt;
+        }
+    }
+}
+
+} // namespace
+
+bool WaitForDescriptor(int descriptor, short events, Deadline deadline,
+                       const KeepWaiting& keepWaiting) {
+    for (;;) {
+        pollfd wanted{descriptor, events, 0};
+        if (poll(&wanted, 1, static_cast<int>(kSlice.count())) > 0) {
+            return true;
+        }
+        if (!keepWaiting() || std::chrono::steady_clock::now() >= deadline) {
+            return false;
+        }
+    }
+}
+
+std::optional<std::string> ResultOfChild(const std::function<std::string()>& work,
+                                         Deadline deadline, const KeepWaiting& keepWaiting) {
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) {
+        return std::nullopt;
+    }
+    const pid_t child = fork();
+    if (child == 0) {
+        RunChild(work, ends[1]);
+    }
+    close(ends[1]);
+    std::optional<std::string> result;
+    if (child > 0) {
+        result = ReadUntilEnd(ends[0], deadline, keepWaiting);
+        if (!result) {
+            kill(child, SIGKILL);
+        }
+        int status = 0;
+        while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+        }
+        if (!WIFEXITED(status) || WEXITSTATUS(status) != EXIT_SUCCESS) {
+            result.reset();
+        }
+    }
+    close(ends[0]);
+    return result;
+}
+
+} // namespace platform

@@ -1,0 +1,204 @@
+#include "platform/linux/directory_server.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <cstring>
+#include <memory>
+#include <random>
+#include <sstream>
+#include <string_view>
+#include <vector>
+
+#include <arpa/nameser.h>
+#include <fcntl.h>
+#include <ldap.h>
+#include <netdb.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <resolv.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+constexpr int kLdapPort = 389;
+
+struct Server {
+    int priority = 0;
+    double order = 0; ///< among those of one priority
+    std::string host;
+    int port = kLdapPort;
+};
+
+// One service record's data: priority, weight, port, each of 16 bits, and the host's name.
+bool ReadServer(const ns_msg& message, const ns_rr& record, std::mt19937& random, Server& server) {
+    constexpr int kFixedSize = 6;
+    if (ns_rr_type(record) != ns_t_srv || ns_rr_rdlen(record) <= kFixedSize) {
+        return false;
+    }
+    const unsigned char* const data = ns_rr_rdata(record);
+    std::array<char, NS_MAXDNAME> name{};
+    if (dn_expand(ns_msg_base(message), ns_msg_end(message), data + kFixedSize, name.data(),
+                  static_cast<int>(name.size())) < 0) {
+        return false;
+    }
+    server.priority = static_cast<int>(ns_get16(data));
+    const double weight = ns_get16(data + 2);
+    // The share of first places that a weight asks for.
+    server.order = std::exponential_distribution<>(weight + 1e-3)(random);
+    server.port = static_cast<int>(ns_get16(data + 4));
+    server.host = name.data();
+    return !server.host.empty();
+}
+
+std::vector<Server> ServiceRecords(const std::string& name) {
+    struct __res_state state {};
+    if (res_ninit(&state) != 0) {
+        return {};
+    }
+    std::vector<unsigned char> answer(NS_MAXMSG);
+    const int length =
+        res_nquery(&state, name.c_str(), ns_c_in, ns_t_srv, answer.data(), NS_MAXMSG);
+    res_nclose(&state);
+    ns_msg message{};
+    if (length < 0 || ns_initparse(answer.data(), std::min(length, NS_MAXMSG), &message) != 0) {
+        return {};
+    }
+    std::mt19937 random{std::random_device{}()};
+    std::vector<Server> servers;
+    for (int index = 0; index < ns_msg_count(message, ns_s_an); ++index) {
+        ns_rr record{};
+        Server server;
+        if (ns_parserr(&message, ns_s_an, index, &record) == 0 &&
+            ReadServer(message, record, random, server)) {
+            servers.push_back(server);
+        }
+    }
+    std::ranges::sort(servers, {}, [](const Server& s) { return std::pair(s.priority, s.order); });
+    return servers;
+}
+
+// "host:port", but not an address of several colons.
+bool SplitPort(const std::string& text, Server& server) {
+    const std::size_t colon = text.rfind(':');
+    if (colon == std::string::npos || text.find(':') != colon) {
+        return false;
+    }
+    const char* const end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data() + colon + 1, end, server.port);
+    server.host = text.substr(0, colon);
+    return error == std::errc{} && rest == end && server.port > 0 && server.port <= 0xFFFF;
+}
+
+std::vector<Server> ServersOf(const std::string& domain) {
+    Server named;
+    if (SplitPort(domain, named)) {
+        return {named};
+    }
+    for (const char* service : {"_ldap._tcp.dc._msdcs.", "_ldap._tcp."}) {
+        if (std::vector<Server> servers = ServiceRecords(service + domain); !servers.empty()) {
+            return servers;
+        }
+    }
+    return {Server{.host = domain}};
+}
+
+// A line for each address, "address port host"; behind them, when there is none, "! reason".
+std::string Addresses(const std::string& domain) {
+    std::ostringstream lines;
+    std::string reason;
+    for (const Server& server : ServersOf(domain)) {
+        addrinfo hints{};
+        hints.ai_socktype = SOCK_STREAM;
+        addrinfo* found = nullptr;
+        const int error = getaddrinfo(server.host.c_str(), nullptr, &hints, &found);
+        if (error != 0) {
+            reason = gai_strerror(error);
+            continue;
+        }
+        for (const addrinfo* address = found; address != nullptr; address = address->ai_next) {
+            std::array<char, NI_MAXHOST> text{};
+            if (getnameinfo(address->ai_addr, address->ai_addrlen, text.data(), text.size(),
+                            nullptr, 0, NI_NUMERICHOST) == 0) {
+                lines << text.data() << ' ' << server.port << ' ' << server.host << '\n';
+            }
+        }
+        freeaddrinfo(found);
+    }
+    return lines.str().empty() ? "! " + reason : lines.str();
+}
+
+struct Address {
+    std::string text;
+    int port = 0;
+    std::string host;
+};
+
+int OpenSocket(const Address& address, Deadline deadline, const KeepWaiting& keepWaiting) {
+    addrinfo hints{};
+    hints.ai_socktype = SOCK_STREAM;
+    hints.ai_flags = AI_NUMERICHOST | AI_NUMERICSERV;
+    addrinfo* found = nullptr;
+    if (getaddrinfo(address.text.c_str(), std::to_string(address.port).c_str(), &hints, &found) !=
+        0) {
+        errno = EHOSTUNREACH;
+        return -1;
+    }
+    const std::unique_ptr<addrinfo, decltype(&freeaddrinfo)> owner(found, &freeaddrinfo);
+    const int descriptor = socket(found->ai_family, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    if (descriptor < 0) {
+        return -1;
+    }
+    int error = connect(descriptor, found->ai_addr, found->ai_addrlen) == 0 ? 0 : errno;
+    if (error == EINPROGRESS) {
+        socklen_t size = sizeof error;
+        if (!WaitForDescriptor(descriptor, POLLOUT, deadline, keepWaiting)) {
+            error = ETIMEDOUT;
+        } else if (getsockopt(descriptor, SOL_SOCKET, SO_ERROR, &error, &size) != 0) {
+            error = errno;
+        }
+    }
+    if (error != 0) {
+        close(descriptor);
+        errno = error;
+        return -1;
+    }
+    return descriptor;
+}
+
+SystemError NoServer(const std::string& reason) {
+    const std::string text = ldap_err2string(LDAP_SERVER_DOWN);
+    return {LDAP_SERVER_DOWN, reason.empty() ? text : text + ": " + reason};
+}
+
+} // namespace
+
+ServerConnection ConnectToDirectory(const std::string& domain, Deadline deadline,
+                                    const KeepWaiting& keepWaiting) {
+    const std::optional<std::string> lines =
+        ResultOfChild([&domain] { return Addresses(domain); }, deadline, keepWaiting);
+    if (!lines) {
+        return {.error = {LDAP_TIMEOUT, ldap_err2string(LDAP_TIMEOUT)}};
+    }
+    if (lines->starts_with("! ")) {
+        return {.error = NoServer(lines->substr(2))};
+    }
+    std::istringstream stream(*lines);
+    Address address;
+    std::string reason;
+    while (stream >> address.text >> address.port && stream.get() == ' ' &&
+           std::getline(stream, address.host)) {
+        const int descriptor = OpenSocket(address, deadline, keepWaiting);
+        if (descriptor >= 0) {
+            return {.descriptor = descriptor, .host = address.host, .port = address.port};
+        }
+        reason = SystemErrorFromNumber(errno).description;
+    }
+    return {.error = NoServer(reason)};
+}
+
+} // namespace platform

@@ -1,0 +1,106 @@
+#include "platform/directory_service.h"
+
+#include "platform/utf8.h"
+
+#include <algorithm>
+#include <memory>
+#include <string_view>
+
+#include <krb5.h>
+#include <profile.h>
+#include <resolv.h>
+#include <strings.h>
+extern "C" {
+#include <wbclient.h>
+}
+
+namespace platform {
+
+namespace {
+
+// Names of domains differ in more than the case of their letters.
+void AddOnce(std::vector<std::string>& names, std::string_view text) {
+    std::string name = ValidUtf8(text);
+    const bool known = std::ranges::any_of(names, [&name](const std::string& other) {
+        return strcasecmp(other.c_str(), name.c_str()) == 0;
+    });
+    if (!name.empty() && !known) {
+        names.push_back(std::move(name));
+    }
+}
+
+void AddRealmSections(std::vector<std::string>& names, profile_t profile) {
+    const char* path[] = {"realms", nullptr};
+    char** sections = nullptr;
+    if (profile_get_subsection_names(profile, path, &sections) != 0 || sections == nullptr) {
+        return;
+    }
+    for (char** section = sections; *section != nullptr; ++section) {
+        AddOnce(names, *section);
+    }
+    profile_free_list(sections);
+}
+
+// The user's own realm first, then those the configuration describes.
+void AddRealms(std::vector<std::string>& names) {
+    krb5_context context = nullptr;
+    if (krb5_init_context(&context) != 0) {
+        return;
+    }
+    profile_t profile = nullptr;
+    if (krb5_get_profile(context, &profile) == 0) {
+        char* ownRealm = nullptr;
+        if (profile_get_string(profile, "libdefaults", "default_realm", nullptr, nullptr,
+                               &ownRealm) == 0 &&
+            ownRealm != nullptr) {
+            AddOnce(names, ownRealm);
+            profile_release_string(ownRealm);
+        }
+        AddRealmSections(names, profile);
+        profile_release(profile);
+    }
+    krb5_free_context(context);
+}
+
+// Fails at once where winbind does not run.
+void AddTrustedDomains(std::vector<std::string>& names) {
+    struct wbcDomainInfo* domains = nullptr; // a function has that name as well
+    std::size_t count = 0;
+    if (!WBC_ERROR_IS_OK(wbcListTrusts(&domains, &count))) {
+        return;
+    }
+    for (std::size_t index = 0; index < count; ++index) {
+        const struct wbcDomainInfo& domain = domains[index];
+        // What stands for the machine itself, or for a domain of old, has no directory.
+        if (domain.trust_type != WBC_DOMINFO_TRUSTTYPE_LOCAL && domain.dns_name != nullptr) {
+            AddOnce(names, domain.dns_name);
+        }
+    }
+    wbcFreeMemory(domains);
+}
+
+void AddSearchDomains(std::vector<std::string>& names) {
+    struct __res_state state {};
+    if (res_ninit(&state) != 0) {
+        return;
+    }
+    for (const char* const domain : state.dnsrch) {
+        if (domain == nullptr) {
+            break;
+        }
+        AddOnce(names, domain);
+    }
+    res_nclose(&state);
+}
+
+} // namespace
+
+std::vector<std::string> DomainNames() {
+    std::vector<std::string> names;
+    AddRealms(names);
+    AddTrustedDomains(names);
+    AddSearchDomains(names);
+    return names;
+}
+
+} // namespace platform
