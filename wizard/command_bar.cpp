@@ -60,8 +60,8 @@ void frmWizard::CreateCommandBar() {
 
 void frmWizard::ssaQueueshift_ToolClick(std::string_view tool) {
     // What a query under way would fill belongs to the document of before.
-    constexpr std::array<std::string_view, 4> kFileTools{"ID_BTN_NEW", "ID_BTN_OPEN",
-                                                         "ID_BTN_SAVE", "ID_BTN_SAVE_AS"};
+    constexpr std::array<std::string_view, 4> kFileTools{"ID_BTN_NEW", "ID_BTN_OPEN", "ID_BTN_SAVE",
+                                                         "ID_BTN_SAVE_AS"};
     if (std::ranges::find(kFileTools, tool) != kFileTools.end()) {
         modADPrinters::AbandonQueries();
     }

@@ -58,7 +58,8 @@ frmWizard::frmWizard()
     Bind(wxEVT_CHAR_HOOK, &frmWizard::OnKey, this);
     modINIFile::SetWindow(this);
     modDeployment::SetHost(this);
-    modADPrinters::SetDomainSource([this] { return editors::TextOf(*activeDirectory->cboDomainName); });
+    modADPrinters::SetDomainSource(
+        [this] { return editors::TextOf(*activeDirectory->cboDomainName); });
 }
 
 frmWizard::~frmWizard() {

@@ -162,8 +162,8 @@ private:
         while (code == LDAP_SASL_BIND_IN_PROGRESS) {
             int id = 0;
             code = ldap_sasl_interactive_bind(session_, nullptr, "GSSAPI", nullptr, nullptr,
-                                              LDAP_SASL_QUIET, &NothingToAsk, nullptr,
-                                              answer.get(), &mechanism, &id);
+                                              LDAP_SASL_QUIET, &NothingToAsk, nullptr, answer.get(),
+                                              &mechanism, &id);
             if (code == LDAP_SASL_BIND_IN_PROGRESS) {
                 answer = NextMessage(id, LDAP_MSG_ALL, bindDeadline_);
                 if (!answer) {
@@ -249,16 +249,16 @@ private:
         std::array<char*, 3> attributes{name.data(), share.data(), nullptr};
         std::array<LDAPControl*, 2> controls{page, nullptr};
         int id = 0;
-        const int code = ldap_search_ext(session_, base_.c_str(), LDAP_SCOPE_SUBTREE, kFilter,
-                                         attributes.data(), 0, controls.data(), nullptr, nullptr,
-                                         LDAP_NO_LIMIT, &id);
+        const int code =
+            ldap_search_ext(session_, base_.c_str(), LDAP_SCOPE_SUBTREE, kFilter, attributes.data(),
+                            0, controls.data(), nullptr, nullptr, LDAP_NO_LIMIT, &id);
         if (code != LDAP_SUCCESS) {
             FailWith(code, Diagnostic());
             return false;
         }
         for (;;) {
-            const Message messages = NextMessage(id, LDAP_MSG_RECEIVED,
-                                                 std::chrono::steady_clock::now() + kAnswerLimit);
+            const Message messages =
+                NextMessage(id, LDAP_MSG_RECEIVED, std::chrono::steady_clock::now() + kAnswerLimit);
             if (!messages) {
                 return false;
             }
@@ -277,8 +277,8 @@ private:
     bool ReadResult(LDAPMessage* message) {
         char* text = nullptr;
         LDAPControl** controls = nullptr;
-        const int code = ldap_parse_result(session_, message, &result_, nullptr, &text, nullptr,
-                                           &controls, 0);
+        const int code =
+            ldap_parse_result(session_, message, &result_, nullptr, &text, nullptr, &controls, 0);
         if (code != LDAP_SUCCESS) {
             FailWith(code, Diagnostic());
             return false;
@@ -289,8 +289,8 @@ private:
         LDAPControl* const page = ldap_control_find(LDAP_CONTROL_PAGEDRESULTS, controls, nullptr);
         ber_int_t estimate = 0;
         berval cookie{};
-        if (page != nullptr && ldap_parse_pageresponse_control(session_, page, &estimate,
-                                                               &cookie) == LDAP_SUCCESS) {
+        if (page != nullptr &&
+            ldap_parse_pageresponse_control(session_, page, &estimate, &cookie) == LDAP_SUCCESS) {
             cookie_.assign(cookie.bv_val, cookie.bv_len);
             ber_memfree(cookie.bv_val);
         }
