@@ -76,6 +76,10 @@ public:
     // A server without a limit answers much faster in one piece than in pages, so it is asked for
     // that first; one that cuts the answer is asked again, for pages.
     void Execute() override {
+        if (base_.empty()) {
+            FailWith(LDAP_SERVER_DOWN, "no directory is bound");
+            return;
+        }
         if (!Search(nullptr)) {
             return;
         }
