@@ -22,8 +22,8 @@ using namespace std::chrono_literals;
 // One for finding, connecting and Kerberos together, one for each further answer.
 constexpr auto kConnectLimit = 10s;
 constexpr auto kAnswerLimit = 30s;
-// Servers that allow smaller pages only answer in those.
-constexpr ber_int_t kPageSize = 100'000;
+// What Windows servers allow unless told otherwise; some servers refuse to be asked for more.
+constexpr ber_int_t kPageSize = 1000;
 constexpr char kFilter[] = "(objectCategory=printQueue)";
 
 struct Record {

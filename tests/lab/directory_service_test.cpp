@@ -62,6 +62,8 @@ protected:
         return names;
     }
 
+    static int PortOf(const char* variable) { return std::stoi(std::getenv(variable)); }
+
     static std::string At(int port) { return std::string(kHost) + ':' + std::to_string(port); }
 
     int waits = 0;
@@ -95,6 +97,29 @@ TEST_F(Directory, FindsEveryQueueWhateverTheirNumber) {
             EXPECT_EQ(names.front(), "SRV00-Printer-00000");
         }
     }
+}
+
+TEST_F(Directory, AServerThatCutsItsAnswersIsAskedForPages) {
+    Bind(At(PortOf("LAB_CAPPED_PORT")));
+    ASSERT_EQ(service->Error().number, 0) << service->Error().description;
+    Query();
+    EXPECT_EQ(service->Error().number, 0) << service->Error().description;
+    EXPECT_EQ(service->RecordCount(), 2500);
+    std::vector<std::string> names = Names();
+    std::ranges::sort(names);
+    EXPECT_EQ(std::ranges::adjacent_find(names), names.end());
+    EXPECT_EQ(names.front(), "SRV00-Capped-00000");
+    EXPECT_EQ(names.back(), "SRV49-Capped-02499");
+}
+
+TEST_F(Directory, AServerThatCutsItsPagesTooFailsAfterThoseThatArrived) {
+    Bind(At(PortOf("LAB_LIMITED_PORT")));
+    ASSERT_EQ(service->Error().number, 0) << service->Error().description;
+    Query();
+    EXPECT_THAT(service->Error().number,
+                testing::AnyOf(LDAP_SIZELIMIT_EXCEEDED, LDAP_ADMINLIMIT_EXCEEDED));
+    EXPECT_GE(service->RecordCount(), 1000);
+    EXPECT_LE(service->RecordCount(), 1500);
 }
 
 TEST_F(Directory, GivesNamesAsTheyAreAndTheFirstShare) {
