@@ -3,7 +3,6 @@
 #include "platform/windows/automation.h"
 #include "platform/windows/wide.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace platform {
@@ -122,7 +121,7 @@ std::vector<std::string> DomainNames() {
     for (Variant child; children->Next(1, child.Place(), nullptr) == S_OK; child = Variant()) {
         // A child that does not tell its name is passed over.
         const auto name = AutomationObject(child).Get(L"Name").value.Text();
-        if (name && std::find(names.begin(), names.end(), *name) == names.end()) {
+        if (name) {
             names.push_back(*name);
         }
     }
