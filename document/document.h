@@ -32,6 +32,10 @@ void ResetDocument();
 /// read of this run has failed. Throws DamagedList.
 void ReadDocument();
 
+/// The box that ReadDocument shows at its end. A caller that DamagedList reached shows it itself:
+/// the reader never came to its end.
+void ShowReadFailure();
+
 /// Stores the record in g_strINIFilePath, key by key, committed once. An empty text becomes " " in
 /// the record and in the file. Shows one message box at the end when a write failed (WriteFailed).
 void WriteDocument();

@@ -140,11 +140,15 @@ void ReadDocument() {
         table.Read(key);
     }
     if (g_Document.ReadFailed) {
-        // The caption is that of a failed save: administrators know the box by it.
-        platform::ShowMessage({"Unable to read INI file. Please check your permissions to the "
-                               "folder and file you are attempting to read.",
-                               "Write Error", platform::Buttons::Ok, platform::Icon::Critical});
+        ShowReadFailure();
     }
+}
+
+void ShowReadFailure() {
+    // The caption is that of a failed save: administrators know the box by it.
+    platform::ShowMessage({"Unable to read INI file. Please check your permissions to the folder "
+                           "and file you are attempting to read.",
+                           "Write Error", platform::Buttons::Ok, platform::Icon::Critical});
 }
 
 std::string ReadText(std::string_view section, std::string_view key) {

@@ -80,13 +80,6 @@ bool OfferToSave(const std::string& question) {
     return true;
 }
 
-void ShowReadFailure() {
-    // The caption is that of a failed save: administrators know the box by it.
-    platform::ShowMessage({"Unable to read INI file. Please check your permissions to the folder "
-                           "and file you are attempting to read.",
-                           "Write Error", platform::Buttons::Ok, platform::Icon::Critical});
-}
-
 void StartNewDocument(bool usesActiveDirectory) {
     StartUntitledDocument();
     if (usesActiveDirectory) {
@@ -169,8 +162,7 @@ bool ReadDocumentOrStartUntitled() {
         modINIDocument::ReadDocument();
         return true;
     } catch (const modINIDocument::DamagedList&) {
-        // The reader's own box comes at its end, which this file never reached.
-        ShowReadFailure();
+        modINIDocument::ShowReadFailure();
         StartUntitledDocument();
         return false;
     }
