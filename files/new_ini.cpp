@@ -15,7 +15,6 @@
 
 #include <algorithm>
 
-using platform::ui::FromWx;
 using platform::ui::ToWx;
 
 namespace {
@@ -159,11 +158,12 @@ void frmNewINI::OpenSelectedFolder() {
 
 void frmNewINI::dirExistingINI_Change() {
     fileListPath_ = folderListPath_;
-    wxArrayString files;
-    for (const std::string& name : platform::FilesIn(fileListPath_, ".ini")) {
-        files.Add(ToWx(name));
+    fileNames_ = platform::FilesIn(fileListPath_, ".ini");
+    wxArrayString rows;
+    for (const std::string& name : fileNames_) {
+        rows.Add(ToWx(name));
     }
-    filExistingINI->Set(files);
+    filExistingINI->Set(rows);
 }
 
 std::string frmNewINI::ExistingFolder() const {
@@ -171,7 +171,9 @@ std::string frmNewINI::ExistingFolder() const {
 }
 
 std::string frmNewINI::ExistingFileName() const {
-    return FromWx(filExistingINI->GetStringSelection());
+    // Not the row's text: a name may hold what cannot be shown.
+    const int row = filExistingINI->GetSelection();
+    return row == wxNOT_FOUND ? std::string() : fileNames_.at(static_cast<std::size_t>(row));
 }
 
 void frmNewINI::End(int id) {

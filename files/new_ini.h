@@ -78,4 +78,5 @@ private:
     std::vector<std::string> folderPaths_; ///< of the rows of dirExistingINI
     std::string folderListPath_;           ///< the folder that dirExistingINI has open
     std::string fileListPath_;             ///< the folder whose files filExistingINI shows
+    std::vector<std::string> fileNames_;   ///< of the rows of filExistingINI
 };

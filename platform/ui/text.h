@@ -1,6 +1,8 @@
 // The border between the record's UTF-8 texts and the windows' strings.
 #pragma once
 
+#include "platform/utf8.h"
+
 #include <wx/string.h>
 
 #include <string>
@@ -8,8 +10,14 @@
 
 namespace platform::ui {
 
+/// Bytes that are no UTF-8, as the names of files may hold on Linux, show as U+FFFD.
 inline wxString ToWx(std::string_view utf8) {
-    return wxString::FromUTF8(utf8.data(), utf8.size());
+    const wxString text = wxString::FromUTF8(utf8.data(), utf8.size());
+    if (text.empty() && !utf8.empty()) {
+        const std::string valid = ValidUtf8(utf8);
+        return wxString::FromUTF8(valid.data(), valid.size());
+    }
+    return text;
 }
 
 inline std::string FromWx(const wxString& text) {
