@@ -1,6 +1,7 @@
 #include "wizard/derived_lists.h"
 
 #include "document/item_text.h"
+#include "platform/ui/fold_case.h"
 #include "platform/ui/text.h"
 
 #include <algorithm>
@@ -17,7 +18,7 @@ using modINIDocument::Split;
 namespace {
 
 std::wstring Folded(const std::string& text) {
-    return platform::ui::ToWx(text).Lower().ToStdWstring();
+    return platform::ui::FoldCase(platform::ui::ToWx(text).ToStdWstring());
 }
 
 // Finds, among texts, the first in their own order that begins with a given one: the texts are

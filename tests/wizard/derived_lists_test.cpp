@@ -65,6 +65,11 @@ TEST(DriverItems, TakeTheFirstSavedEntryThatBeginsAlikeInAnyCase) {
               Items{"HP LaserJet"});
 }
 
+TEST(DriverItems, KnowTheLetterCaseOfEveryScript) {
+    const Items saved{"Büro >> D >> F >> L", "αθηνα >> D", "печать >> D"};
+    EXPECT_EQ(DriverItems(Pairs({"A -> BÜRO", "B -> ΑΘΗΝΑ", "C -> ПЕЧАТЬ"}), saved), saved);
+}
+
 TEST(DriverItems, LetTwoPrintersTakeTheSameEntry) {
     EXPECT_EQ(DriverItems(Pairs({"A -> H", "B -> HP"}), {"HP 5 >> D >> F >> L"}),
               (Items{"HP 5 >> D >> F >> L", "HP 5 >> D >> F >> L"}));
