@@ -1,6 +1,7 @@
 #include "editors/page.h"
 
 #include "platform/ui/control_name.h"
+#include "platform/ui/list_box.h"
 #include "platform/ui/one_line.h"
 
 #include <wx/bookctrl.h>
@@ -190,8 +191,7 @@ void Page::AlignLabels(std::initializer_list<wxFlexGridSizer*> groups) {
 }
 
 wxListBox* Page::AddListBox(const wxString& name, const wxString& label) {
-    auto* const list = new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(200, 60)), 0,
-                                     nullptr, wxLB_SINGLE | wxLB_HSCROLL | wxLB_NEEDED_SB);
+    auto* const list = new platform::ui::ListBox(this, FromDIP(wxSize(200, 60)));
     // Said aloud, because pages give their boxes the colour of their list and a toolkit may not
     // tell the one that it draws by itself.
     list->SetBackgroundColour(WindowColour());

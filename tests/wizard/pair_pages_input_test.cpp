@@ -49,6 +49,59 @@ TEST_F(PairInput, AClickOnARowFillsTheBoxesAgainEvenOnTheSelectedOne) {
     EXPECT_FALSE(Changed());
 }
 
+TEST_F(PairInput, AClickIsHeardOnTheRowThatTookThePlaceOfTheDeletedOne) {
+    PutItems(window, "lstServerPairs", {"A -> B", "C -> D"});
+    ClickServer(0);
+    WaitFor([this] { return TextIn(window, "txtFromServer") == "A"; }, "the first pair");
+    ModalScript dialogs;
+    dialogs.ExpectMessage({"Are you sure that you want to delete the selected Print Server pair?",
+                           "Delete?", platform::Buttons::YesNo, platform::Icon::Question},
+                          platform::Answer::Yes);
+    ClickOn(Find(window, "cmdDeleteServer"));
+    WaitFor([this] { return ItemsIn(window, "lstServerPairs") == Texts{"C -> D"}; }, "the delete");
+    // Elsewhere on the row, so that the two clicks make no double click.
+    auto* const list = Find<wxListBox>(window, "lstServerPairs");
+    ClickOn(list, RowPoint(*list, 0) + wxPoint(40, 0));
+    WaitFor([this] { return TextIn(window, "txtFromServer") == "C"; }, "the pair that is left");
+    EXPECT_FALSE(window->servers->m_bolNewServerPair);
+}
+
+TEST_F(PairInput, AClickIsHeardOnTheSameRowOfAnotherDocument) {
+    PutItems(window, "lstServerPairs", {"A -> B", "C -> D"});
+    ClickServer(1);
+    WaitFor([this] { return TextIn(window, "txtFromServer") == "C"; }, "the second pair");
+    Record().ServerPairs = {{"G", "H"}, {"I", "J"}};
+    Load();
+    ASSERT_EQ(TextIn(window, "txtFromServer"), "");
+    auto* const list = Find<wxListBox>(window, "lstServerPairs");
+    ClickOn(list, RowPoint(*list, 1) + wxPoint(40, 0));
+    WaitFor([this] { return TextIn(window, "txtFromServer") == "I"; }, "the other pair");
+}
+
+TEST_F(PairInput, TheFocusAloneSelectsNothing) {
+    PutItems(window, "lstServerPairs", {"A -> B", "C -> D"});
+    PutText(window, "txtFromServer", "new");
+    FocusOn(Find(window, "lstServerPairs"));
+    Pump();
+    EXPECT_EQ(RowIn(window, "lstServerPairs"), wxNOT_FOUND);
+    EXPECT_EQ(TextIn(window, "txtFromServer"), "new");
+    EXPECT_TRUE(window->servers->m_bolNewServerPair);
+}
+
+TEST_F(PairInput, TheArrowKeysGoOnFromTheRowThatWasSaved) {
+    PutItems(window, "lstServerPairs", {"A -> B", "C -> D", "E -> F"});
+    ClickServer(0);
+    ClickOn(Find(window, "cmdNewServerPair"));
+    WaitFor([this] { return TextIn(window, "txtFromServer").empty(); }, "empty boxes");
+    PutText(window, "txtFromServer", "G");
+    PutText(window, "txtToServer", "H");
+    ClickOn(Find(window, "cmdSaveServerPair"));
+    WaitFor([this] { return RowIn(window, "lstServerPairs") == 3; }, "the new pair");
+    FocusOn(Find(window, "lstServerPairs"));
+    Press(WXK_UP);
+    WaitFor([this] { return TextIn(window, "txtFromServer") == "E"; }, "the pair above it");
+}
+
 TEST_F(PairInput, TheArrowKeysWalkTheList) {
     PutItems(window, "lstServerPairs", {"A -> B", "C -> D"});
     ClickServer(0);

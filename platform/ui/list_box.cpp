@@ -1,0 +1,38 @@
+#include "platform/ui/list_box.h"
+
+namespace platform::ui {
+
+ListBox::ListBox(wxWindow* parent, const wxSize& size)
+    : wxListBox(parent, wxID_ANY, wxDefaultPosition, size, 0, nullptr,
+                wxLB_SINGLE | wxLB_HSCROLL | wxLB_NEEDED_SB) {}
+
+void ListBox::DoClear() {
+    wxListBox::DoClear();
+    Follow(0);
+}
+
+void ListBox::DoDeleteOneItem(unsigned int row) {
+    wxListBox::DoDeleteOneItem(row);
+    Follow(static_cast<int>(row));
+}
+
+void ListBox::DoSetSelection(int row, bool select) {
+    wxListBox::DoSetSelection(row, select);
+    Follow(row);
+}
+
+int ListBox::DoInsertItems(const wxArrayStringsAdapter& items, unsigned int row, void** clientData,
+                           wxClientDataType type) {
+    const int last = wxListBox::DoInsertItems(items, row, clientData, type);
+    Follow(0);
+    return last;
+}
+
+// The toolkit keeps silent about the row that it told of last. Once the program has moved the
+// selection, or put other texts into the rows, a choice of that row is news.
+void ListBox::Follow(int row) {
+    PlaceListCursor(*this, row);
+    DoChangeSingleSelection(GetSelection());
+}
+
+} // namespace platform::ui
