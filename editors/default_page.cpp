@@ -31,9 +31,13 @@ DefaultPage::DefaultPage(wxWindow* parent, int position)
     Completed();
 }
 
-void DefaultPage::optDefault_Click(int index) {
+void DefaultPage::optDefault_Click(int /*index*/) {
     MarkChanged();
-    const bool force = index == kForce;
+    FollowChoice();
+}
+
+void DefaultPage::FollowChoice() {
+    const bool force = optDefault.Selected() == kForce;
     // On, it takes the colour of the page lists; off, the window's own.
     EnableWithColour(*cboForceDefault, force,
                      force ? WindowColour() : wxGetTopLevelParent(this)->GetBackgroundColour());

@@ -16,6 +16,9 @@ public:
     /// `index` -1 when none is selected.
     void optDefault_Click(int index);
     void cboForceDefault_Click();
+
+    /// Opens the list of printers when Force is selected, and closes it otherwise; marks nothing.
+    void FollowChoice();
 };
 
 } // namespace editors

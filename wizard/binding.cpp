@@ -125,6 +125,8 @@ struct IntoControl {
     }
     void operator()(DefaultPrinterRow /*row*/) const {
         window.setDefault->optDefault.Choose(record.DefaultType);
+        // A type outside the group selects none, which no click tells.
+        window.setDefault->FollowChoice();
         if (record.DefaultType == 2) {
             wxOwnerDrawnComboBox& combo = *window.setDefault->cboForceDefault;
             combo.Clear();

@@ -200,6 +200,15 @@ TEST_F(Binding, DefaultTypeSelectsItsButtonAndOutOfRangeNone) {
     }
 }
 
+TEST_F(Binding, ATypeOutOfRangeClosesTheListOfPrinters) {
+    Record().DefaultPrinterName = "\\\\SRV\\HP";
+    for (const int type : {2, 9, 0, -1, 2, 3}) {
+        Record().DefaultType = static_cast<modINIDocument::Integer>(type);
+        Load();
+        EXPECT_EQ(IsEnabled(window, "cboForceDefault"), type == 2) << type;
+    }
+}
+
 TEST_F(Binding, AForcedPrinterIsTheOnlyItemOfItsList) {
     PutItems(window, "cboForceDefault", {"old one", "old two"});
     Record().DefaultType = 2;
