@@ -253,6 +253,27 @@ TEST_F(NodeClick, WorksByMouseOnAnyNodeAndOnTheSelectedOneToo) {
     WaitFor([&] { return probe.Ran() == Texts{"Drivers"}; }, "the drivers to be refreshed again");
 }
 
+TEST_F(NodeClick, ABranchThatClosesOverThePageShowsItsOwn) {
+    Start(kManual);
+    Show();
+    GoTo(modWizard::kSMTPPage);
+    wxWindow* const tree = window->tvwWizardOptions->Control();
+    const wxRect branch = window->tvwWizardOptions->ScreenRect("Key4");
+    const wxPoint left(tree->GetScreenPosition().x, branch.y + branch.height / 2);
+    // The button that closes a branch stands somewhere before its text.
+    for (int x = 4; x < 40 && window->tvwWizardOptions->IsExpanded("Key4"); x += 6) {
+        ClickAt(tree, left + wxPoint(x, 0));
+        Pump();
+    }
+    ASSERT_FALSE(window->tvwWizardOptions->IsExpanded("Key4"));
+    WaitFor([this] { return CurrentPage() == modWizard::kNotificationPage; },
+            "the page of the branch");
+    EXPECT_EQ(CurrentNode(), "Key4");
+    window->ssaQueueshift_ToolClick("ID_BTN_FILE");
+    EXPECT_TRUE(window->tvwWizardOptions->IsExpanded("Key4"));
+    EXPECT_EQ(CurrentNode(), "Key42");
+}
+
 TEST_F(NodeClick, WorksByKeyboard) {
     Start(kManual);
     Show();

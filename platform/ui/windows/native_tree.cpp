@@ -16,6 +16,7 @@ struct NativeTree::State {
     std::vector<TreeNode> nodes;
     std::map<std::string, wxTreeItemId> items;
     bool selecting = false; // a selection made by the program
+    std::string chosen;     // the node that the program or the user chose last
     std::string pressed;    // the selected node that the button went down on
     bool changedSincePress = false;
 
@@ -40,7 +41,8 @@ struct NativeTree::State {
         return item.IsOk() && (flags & onNode) != 0 ? Key(item) : std::string();
     }
 
-    void SendClick(const std::string& key) const {
+    void SendClick(const std::string& key) {
+        chosen = key;
         wxCommandEvent event(EVT_TREE_NODE_CLICK, control->GetId());
         event.SetEventObject(control);
         event.SetString(ToWx(key));
@@ -85,6 +87,16 @@ NativeTree::NativeTree(wxWindow* parent, const wxString& name, const wxString& l
             state_->control->CallAfter([this, key] { state_->SendClick(key); });
         }
     });
+    // A branch that closes over the selected node takes the selection without a word.
+    state_->control->Bind(wxEVT_TREE_ITEM_COLLAPSED, [this](wxTreeEvent& event) {
+        event.Skip();
+        state_->control->CallAfter([this] {
+            const std::string key = SelectedKey();
+            if (!key.empty() && key != state_->chosen) {
+                state_->SendClick(key);
+            }
+        });
+    });
     // The second click of a double click is a press as well.
     state_->control->Bind(wxEVT_LEFT_DOWN, &State::OnPress, state_.get());
     state_->control->Bind(wxEVT_LEFT_DCLICK, &State::OnPress, state_.get());
@@ -126,6 +138,7 @@ void NativeTree::Select(const std::string& key) {
         return;
     }
     state_->selecting = true;
+    state_->chosen = key;
     state_->control->SelectItem(item);
     state_->control->EnsureVisible(item);
     state_->selecting = false;
