@@ -1,6 +1,7 @@
 #include "editors/option_group.h"
 
 #include "platform/ui/control_name.h"
+#include "platform/ui/no_option.h"
 
 #include <utility>
 
@@ -8,21 +9,53 @@ namespace editors {
 
 OptionGroup::OptionGroup(wxWindow* parent, const wxString& name,
                          const std::vector<wxString>& captions)
-    : none_(new wxRadioButton(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
-                              wxRB_GROUP)) {
-    none_->SetName(name + "(none)");
-    none_->Hide();
+    : none_(platform::ui::MakeNoOption(parent, name + "(none)")) {
     for (std::size_t i = 0; i < captions.size(); ++i) {
-        auto* const button = new WrappingOption(parent, captions[i]);
+        const bool heads = none_ == nullptr && i == 0;
+        auto* const button = new WrappingOption(parent, captions[i], heads ? wxRB_GROUP : 0);
         platform::ui::NameControl(*button, wxString::Format("%s(%zu)", name, i));
         button->Bind(wxEVT_RADIOBUTTON, [this, i](wxCommandEvent&) {
             if (handler_) {
                 handler_(static_cast<int>(i));
             }
         });
+        button->Bind(wxEVT_CHAR_HOOK,
+                     [this, i](wxKeyEvent& event) { OnKey(static_cast<int>(i), event); });
         buttons_.push_back(button);
     }
-    none_->SetValue(true);
+    SelectNone();
+}
+
+void OptionGroup::SelectNone() {
+    if (none_ != nullptr) {
+        none_->SetValue(true);
+        return;
+    }
+    for (WrappingOption* button : buttons_) {
+        button->SetValue(false);
+    }
+}
+
+// Not left to the system: moving the focus may select the button or not, and may lead out of the
+// group at its end.
+void OptionGroup::OnKey(int index, wxKeyEvent& event) {
+    int step = 0;
+    switch (event.HasAnyModifiers() ? WXK_NONE : event.GetKeyCode()) {
+    case WXK_DOWN:
+    case WXK_RIGHT:
+        step = 1;
+        break;
+    case WXK_UP:
+    case WXK_LEFT:
+        step = Count() - 1;
+        break;
+    default:
+        event.Skip();
+        return;
+    }
+    const int next = (index + step) % Count();
+    (*this)[next]->SetFocus();
+    Choose(next);
 }
 
 WrappingOption* OptionGroup::operator[](int index) const {
@@ -44,7 +77,7 @@ int OptionGroup::Selected() const {
 
 void OptionGroup::Choose(int index) {
     if (index < 0 || index >= Count()) {
-        none_->SetValue(true);
+        SelectNone();
         return;
     }
     if (!(*this)[index]->GetValue()) {
@@ -62,10 +95,12 @@ void OptionGroup::Enable(bool enable) {
 }
 
 void OptionGroup::MoveLastInTabOrder() {
-    wxWindow* last = none_->GetParent()->GetChildren().GetLast()->GetData();
+    wxWindow* last = buttons_.front()->GetParent()->GetChildren().GetLast()->GetData();
     if (last != buttons_.back()) {
-        none_->MoveAfterInTabOrder(last);
-        last = none_;
+        if (none_ != nullptr) {
+            none_->MoveAfterInTabOrder(last);
+            last = none_;
+        }
         for (WrappingOption* button : buttons_) {
             button->MoveAfterInTabOrder(last);
             last = button;

@@ -1,7 +1,6 @@
 // A group of option buttons in which "none is selected" is a real state.
 //
-// The toolkits keep one button of a group selected at all times; a hidden button of the group
-// stands for "none", which a document with an out-of-range choice shows.
+// A document with an out-of-range choice shows none; see platform/ui/no_option.h.
 #pragma once
 
 #include "editors/paragraph.h"
@@ -37,7 +36,10 @@ public:
     void OnClick(std::function<void(int index)> handler);
 
 private:
-    wxRadioButton* none_;
+    void SelectNone();
+    void OnKey(int index, wxKeyEvent& event);
+
+    wxRadioButton* none_; // null where the system needs no such button
     std::vector<WrappingOption*> buttons_;
     std::function<void(int)> handler_;
 };

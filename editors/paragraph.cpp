@@ -51,9 +51,10 @@ void Paragraph::WrapTo(int width) {
     }
 }
 
-WrappingOption::WrappingOption(wxWindow* parent, const wxString& caption)
-    : wxRadioButton(parent, wxID_ANY, wxControl::EscapeMnemonics(caption)), text_(caption),
-      around_(std::max(GetBestSize().y - HeightOf(*this, caption), 0)) {
+WrappingOption::WrappingOption(wxWindow* parent, const wxString& caption, long style)
+    : wxRadioButton(parent, wxID_ANY, wxControl::EscapeMnemonics(caption), wxDefaultPosition,
+                    wxDefaultSize, style),
+      text_(caption), around_(std::max(GetBestSize().y - HeightOf(*this, caption), 0)) {
     platform::ui::AllowSeveralLines(*this);
     SetMinSize(wxSize(1, -1));
 }

@@ -27,7 +27,8 @@ private:
 /// An option button whose caption may take several lines.
 class WrappingOption : public wxRadioButton {
 public:
-    WrappingOption(wxWindow* parent, const wxString& caption);
+    /// `style` is wxRB_GROUP for the first of a group.
+    WrappingOption(wxWindow* parent, const wxString& caption, long style = 0);
 
     void WrapTo(int width);
 

@@ -74,6 +74,41 @@ TEST_F(Keyboard, TabStopsOnceInAGroupOfOptions) {
         18, {"optDefault(2)", "cboForceDefault", "cmdHelp(18)", "cmdBack(18)", "cmdNext(18)"});
 }
 
+TEST_F(Keyboard, TheArrowKeysSelectAmongOptionsAndGoRound) {
+    Start(kManual);
+    Show();
+    GoTo(18);
+    ASSERT_EQ(window->setDefault->optDefault.Selected(), 0);
+    FocusOn(Find(window, "optDefault(0)"));
+    struct Row {
+        int key;
+        int selected;
+    };
+    for (const Row& row : {Row{WXK_DOWN, 1}, Row{WXK_RIGHT, 2}, Row{WXK_DOWN, 0}, Row{WXK_UP, 2},
+                           Row{WXK_LEFT, 1}}) {
+        ForgetChanges();
+        Press(row.key);
+        WaitFor([&] { return window->setDefault->optDefault.Selected() == row.selected; },
+                "the option to be selected");
+        EXPECT_EQ(Focused(), "optDefault(" + std::to_string(row.selected) + ")");
+        EXPECT_TRUE(Changed());
+        EXPECT_EQ(IsEnabled(window, "cboForceDefault"), row.selected == 2);
+    }
+}
+
+TEST_F(Keyboard, TabReachesAGroupOfWhichNoneIsSelected) {
+    Start(kManual);
+    Record().IncludeMDAC = modINIDocument::kTrue;
+    Record().MDACOption = 7;
+    Load();
+    Show();
+    GoTo(15);
+    FocusOn(Find(window, "chkIncludeMDAC"));
+    Press(WXK_TAB);
+    EXPECT_TRUE(WaitFor([this] { return Focused() == "optMDACVersion(0)"; }, "the first option"));
+    EXPECT_EQ(window->mdac->optMDACVersion.Selected(), -1);
+}
+
 TEST_F(Keyboard, AccessKeysWorkThePage) {
     Start(kManual);
     Show();
