@@ -95,6 +95,14 @@ TEST_F(DriversPage, APickedFolderBecomesTheDriverShare) {
     EXPECT_EQ(TextIn(page, "txtDriverSharePath"), "D:\\Drivers");
 }
 
+TEST_F(DriversPage, TypingMarksNothing) {
+    for (const char* name :
+         {"txtDriverName", "txtDriverFileName", "txtPortName", "txtDriverSharePath"}) {
+        Enter(page, name, "typed");
+        EXPECT_FALSE(Changed()) << name;
+    }
+}
+
 class DefaultPage : public PageTest {
 protected:
     DefaultPage() { Make<editors::DefaultPage>(18); }
