@@ -2,6 +2,7 @@
 
 #include "platform/ui/control_name.h"
 #include "platform/ui/no_option.h"
+#include "platform/ui/option_keys.h"
 
 #include <utility>
 
@@ -19,10 +20,9 @@ OptionGroup::OptionGroup(wxWindow* parent, const wxString& name,
                 handler_(static_cast<int>(i));
             }
         });
-        button->Bind(wxEVT_CHAR_HOOK,
-                     [this, i](wxKeyEvent& event) { OnKey(static_cast<int>(i), event); });
         buttons_.push_back(button);
     }
+    platform::ui::SelectByArrowKeys({buttons_.begin(), buttons_.end()});
     SelectNone();
 }
 
@@ -34,28 +34,6 @@ void OptionGroup::SelectNone() {
     for (WrappingOption* button : buttons_) {
         button->SetValue(false);
     }
-}
-
-// Not left to the system: moving the focus may select the button or not, and may lead out of the
-// group at its end.
-void OptionGroup::OnKey(int index, wxKeyEvent& event) {
-    int step = 0;
-    switch (event.HasAnyModifiers() ? WXK_NONE : event.GetKeyCode()) {
-    case WXK_DOWN:
-    case WXK_RIGHT:
-        step = 1;
-        break;
-    case WXK_UP:
-    case WXK_LEFT:
-        step = Count() - 1;
-        break;
-    default:
-        event.Skip();
-        return;
-    }
-    const int next = (index + step) % Count();
-    (*this)[next]->SetFocus();
-    Choose(next);
 }
 
 WrappingOption* OptionGroup::operator[](int index) const {

@@ -37,7 +37,6 @@ public:
 
 private:
     void SelectNone();
-    void OnKey(int index, wxKeyEvent& event);
 
     wxRadioButton* none_; // null where the system needs no such button
     std::vector<WrappingOption*> buttons_;

@@ -3,6 +3,7 @@
 
 #include "editors/paragraph.h"
 #include "platform/ui/control_name.h"
+#include "platform/ui/option_keys.h"
 
 #include <wx/button.h>
 #include <wx/choice.h>
@@ -61,6 +62,7 @@ wxWindow* frmNewINI::CreateNewPage() {
     auto* const directoryText = Label(page, 1, kActiveDirectoryText, width - indent);
     optUseManualConfiguration = new wxRadioButton(page, wxID_ANY, "&Manual Configuration");
     NameControl(*optUseManualConfiguration, "optUseManualConfiguration");
+    platform::ui::SelectByArrowKeys({optUseActiveDirectory, optUseManualConfiguration});
     auto* const manualText = Label(page, 2, kManualText, width - indent);
 
     const int gap = FromDIP(6);

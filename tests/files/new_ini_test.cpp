@@ -105,6 +105,22 @@ TEST_F(NewINIDialog, AccessKeysChooseTheTypeFromAnywhere) {
     });
 }
 
+TEST_F(NewINIDialog, TheArrowKeysChooseTheType) {
+    Run([](frmNewINI& shown) {
+        FocusOn(shown.optUseActiveDirectory);
+        for (const int key : {WXK_DOWN, WXK_UP, WXK_RIGHT}) {
+            const bool manual = key != WXK_UP;
+            Press(key);
+            WaitFor([&] { return shown.optUseManualConfiguration->GetValue() == manual; },
+                    "the type to change");
+            EXPECT_EQ(shown.optUseActiveDirectory->GetValue(), !manual);
+        }
+        EXPECT_TRUE(HasFocus(shown.optUseManualConfiguration));
+        Press(WXK_RETURN);
+    });
+    EXPECT_FALSE(frmNewINI::g_bolCancelPressed);
+}
+
 TEST_F(NewINIDialog, AccessKeysWorkTheButtonsFromAnywhere) {
     for (wxWindow* from : std::vector<wxWindow*>{dialog.optUseActiveDirectory, dialog.cmdSelect}) {
         Run([this, from](frmNewINI&) {
