@@ -3,6 +3,7 @@
 
 #include "editors/paragraph.h"
 #include "platform/ui/control_name.h"
+#include "platform/ui/list_box.h"
 #include "platform/ui/option_keys.h"
 
 #include <wx/button.h>
@@ -86,11 +87,9 @@ wxWindow* frmNewINI::CreateExistingPage() {
     NameControl(*lblExisting, "lblExisting");
     drvExistingINI = new wxChoice(page, wxID_ANY);
     NameControl(*drvExistingINI, "drvExistingINI", "Drive");
-    dirExistingINI = new wxListBox(page, wxID_ANY, wxDefaultPosition, ListSize(*this), 0, nullptr,
-                                   wxLB_SINGLE | wxLB_HSCROLL);
+    dirExistingINI = new platform::ui::ListBox(page, ListSize(*this));
     NameControl(*dirExistingINI, "dirExistingINI", "Folders");
-    filExistingINI = new wxListBox(page, wxID_ANY, wxDefaultPosition, ListSize(*this), 0, nullptr,
-                                   wxLB_SINGLE | wxLB_HSCROLL);
+    filExistingINI = new platform::ui::ListBox(page, ListSize(*this));
     NameControl(*filExistingINI, "filExistingINI", "INI files");
 
     const int gap = FromDIP(6);

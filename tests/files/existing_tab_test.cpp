@@ -138,6 +138,17 @@ TEST_F(ExistingTab, ADoubleClickOnAFileIsSelect) {
     EXPECT_FALSE(dialog.IsShown());
 }
 
+TEST_F(ExistingTab, TheFocusAloneChoosesNoFile) {
+    Run([this](frmNewINI& shown) {
+        shown.OpenFolder(sites);
+        FocusOn(shown.filExistingINI);
+        Pump();
+        EXPECT_EQ(shown.filExistingINI->GetSelection(), wxNOT_FOUND);
+        Press(WXK_ESCAPE);
+    });
+    EXPECT_EQ(dialog.ExistingFileName(), "");
+}
+
 TEST_F(ExistingTab, SelectDoesNotAskForAFile) {
     dialog.OpenFolder(sites);
     Run([](frmNewINI& shown) { ClickOn(shown.cmdSelect); });
