@@ -29,6 +29,11 @@ std::unique_ptr<platform::DirectoryService> MakeService(platform::KeepWaiting ke
                           : platform::MakeDirectoryService(std::move(keepWaiting));
 }
 
+// From 1 to 50 and from there back to 1.
+void Advance(wxGauge& progress, int steps) {
+    progress.SetValue((progress.GetValue() + steps - 1) % kSteps + 1);
+}
+
 /// One call of FillADPrinterList, for as long as it lasts.
 class Query {
 public:
@@ -46,6 +51,7 @@ private:
     void Finish();
     void Report(const std::string& what);
     bool Step();
+    void ShowItems(wxArrayString& items, int& steps);
 
     [[nodiscard]] bool Wanted() const {
         return wanted_ && list_.get() != nullptr && progress_.get() != nullptr;
@@ -63,7 +69,7 @@ std::vector<Query*> g_queries;
 
 Query::Query(wxOwnerDrawnComboBox& list, wxGauge& progress)
     : list_(&list), progress_(&progress), service_(MakeService([this] {
-          platform::ui::PumpEventsWhenDue();
+          platform::ui::PumpWhenDue();
           return Wanted();
       })) {
     for (Query* earlier : g_queries) {
@@ -137,18 +143,35 @@ bool Query::FetchRecords() {
     return true;
 }
 
+// A record takes a fraction of a microsecond; bar and list follow when somebody is to see them.
 void Query::AddItems() {
     QueueItem item;
+    wxArrayString items;
+    int steps = 0;
     while (!service_->AtEnd()) {
-        if (!Step()) {
+        ++steps;
+        if (platform::ui::PumpIsDue()) {
+            ShowItems(items, steps);
+            platform::ui::PumpEvents();
+        }
+        if (!Wanted()) {
             return;
         }
-        const std::string text = item.Next(service_->Value("name"));
+        items.Add(platform::ui::ToWx(item.Next(service_->Value("name"))));
         // Read as every record's other attribute, though no item shows it.
         service_->Value("printShareName");
-        list_->Append(platform::ui::ToWx(text));
         service_->MoveNext();
     }
+    ShowItems(items, steps);
+}
+
+void Query::ShowItems(wxArrayString& items, int& steps) {
+    if (Wanted()) {
+        list_->Append(items);
+        Advance(*progress_, steps);
+    }
+    items.Clear();
+    steps = 0;
 }
 
 void Query::Report(const std::string& what) {
@@ -180,8 +203,8 @@ void Query::Finish() {
 } // namespace
 
 void StepADProgress(wxGauge& progress) {
-    progress.SetValue(progress.GetValue() == kSteps ? 1 : progress.GetValue() + 1);
-    platform::ui::PumpEventsWhenDue();
+    Advance(progress, 1);
+    platform::ui::PumpWhenDue();
 }
 
 void FillADPrinterList(wxOwnerDrawnComboBox& list, wxGauge& progress) {

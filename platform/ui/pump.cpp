@@ -6,22 +6,39 @@
 
 namespace platform::ui {
 
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds kFrame{16};
+constexpr std::chrono::milliseconds kLook{1}; // a look at the queue costs a call of the system
+
+Clock::time_point g_lastPump;
+Clock::time_point g_lastLook;
+
+} // namespace
+
 void PumpEvents() {
     if (wxEventLoopBase* const loop = wxEventLoopBase::GetActive(); loop != nullptr) {
         loop->Yield();
+        g_lastPump = Clock::now();
     }
 }
 
-void PumpEventsWhenDue() {
-    using Clock = std::chrono::steady_clock;
-    constexpr std::chrono::milliseconds kFrame{16};
-    static Clock::time_point lastPump;
-    const wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
-    if (loop == nullptr || (!loop->Pending() && Clock::now() - lastPump < kFrame)) {
-        return;
+bool PumpIsDue() {
+    const Clock::time_point now = Clock::now();
+    if (now - g_lastLook < kLook) {
+        return false;
     }
-    PumpEvents();
-    lastPump = Clock::now();
+    g_lastLook = now;
+    const wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
+    return loop != nullptr && (now - g_lastPump >= kFrame || loop->Pending());
+}
+
+void PumpWhenDue() {
+    if (PumpIsDue()) {
+        PumpEvents();
+    }
 }
 
 } // namespace platform::ui

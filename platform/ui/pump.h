@@ -7,8 +7,11 @@ namespace platform::ui {
 /// from a handler that such a call is running.
 void PumpEvents();
 
-/// The same for the inside of a quick loop: does nothing while no event is pending and less than a
-/// frame's time has passed since the last one of these calls that did something.
-void PumpEventsWhenDue();
+/// For the inside of a quick loop: true when events are pending, looked at once a millisecond, or a
+/// frame's time has passed since events were last pumped.
+bool PumpIsDue();
+
+/// Pumps events when that is due.
+void PumpWhenDue();
 
 } // namespace platform::ui
