@@ -2,6 +2,8 @@
 
 #include "platform/ui/pump.h"
 
+#include <wx/evtloop.h>
+
 #include <wx/cursor.h>
 
 namespace editors {
@@ -10,7 +12,12 @@ BusyWindow::BusyWindow(wxWindow& window)
     : window_(window), cursor_(window.GetCursor()), focus_(wxWindow::FindFocus()) {
     window_.SetCursor(wxCursor(wxCURSOR_WAIT));
     window_.Disable();
-    platform::ui::PumpEvents();
+    // Not within another call of the kind: a press of the mouse may have led here, and its release
+    // would be handled while the press still is.
+    const wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
+    if (loop != nullptr && !loop->IsYielding()) {
+        platform::ui::PumpEvents();
+    }
 }
 
 BusyWindow::~BusyWindow() {
