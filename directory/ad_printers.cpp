@@ -22,6 +22,7 @@ constexpr int kSteps = 50;
 
 std::function<std::string()> g_domainSource;
 ServiceMaker g_serviceMaker;
+DomainLister g_domainLister;
 std::function<void()> g_whenNoQueryRuns;
 
 std::unique_ptr<platform::DirectoryService> MakeService(platform::KeepWaiting keepWaiting) {
@@ -231,8 +232,12 @@ void SetServiceMaker(ServiceMaker maker) {
     g_serviceMaker = std::move(maker);
 }
 
+void SetDomainLister(DomainLister lister) {
+    g_domainLister = std::move(lister);
+}
+
 std::vector<std::string> DomainNames() {
-    return platform::DomainNames();
+    return g_domainLister ? g_domainLister() : platform::DomainNames();
 }
 
 } // namespace modADPrinters

@@ -39,6 +39,10 @@ void SetDomainSource(std::function<std::string()> source);
 /// The domains that the network tells of, in its order; empty when it tells of none.
 std::vector<std::string> DomainNames();
 
+/// Lists the domains. Null stands for the system's own service.
+using DomainLister = std::function<std::vector<std::string>()>;
+void SetDomainLister(DomainLister lister);
+
 /// Makes the service that a query asks. Null stands for the system's own.
 using ServiceMaker =
     std::function<std::unique_ptr<platform::DirectoryService>(platform::KeepWaiting)>;

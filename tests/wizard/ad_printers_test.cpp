@@ -329,5 +329,27 @@ TEST_F(ADPrinters, PendingEventsRunWhileAServerIsSlow) {
     EXPECT_TRUE(ran);
 }
 
+class DomainList : public WizardTest {
+protected:
+    DomainList() {
+        modADPrinters::SetDomainLister([] { return std::vector<std::string>{"SALES", "corp"}; });
+    }
+};
+
+TEST_F(DomainList, OffersWhatTheNetworkTellsInItsOrderAndChangesNothing) {
+    Start(kActiveDirectory);
+    EXPECT_EQ(ItemsIn(window, "cboDomainName"), (Texts{"SALES", "corp"}));
+    EXPECT_EQ(TextIn(window, "cboDomainName"), "");
+    EXPECT_FALSE(Changed());
+    EXPECT_FALSE(window->m_bolDomainChangedPopulate);
+    EXPECT_FALSE(window->m_bolDomainChangedPrune);
+}
+
+TEST_F(DomainList, IsNotClearedFirst) {
+    Start(kManual);
+    window->FillDomainList();
+    EXPECT_EQ(ItemsIn(window, "cboDomainName"), (Texts{"SALES", "corp", "SALES", "corp"}));
+}
+
 } // namespace
 } // namespace window_test

@@ -1,5 +1,6 @@
 #include "tests/wizard/wizard_test.h"
 
+#include "directory/ad_printers.h"
 #include "files/ini_file.h"
 #include "files/new_ini.h"
 #include "platform/ui/message_box.h"
@@ -16,9 +17,12 @@ WizardTest::WizardTest() {
     modINIDocument::g_bolDocumentChanged = false;
     modINIFile::g_CommonDialog = {};
     frmNewINI::g_bolCancelPressed = false;
+    // Whatever domains the machine knows that runs the tests.
+    modADPrinters::SetDomainLister([] { return std::vector<std::string>(); });
 }
 
 WizardTest::~WizardTest() {
+    modADPrinters::SetDomainLister(nullptr);
     if (window) {
         window->Destroy();
     }
