@@ -67,9 +67,9 @@ private:
 std::unique_ptr<DirectoryService> MakeDirectoryService(KeepWaiting keepWaiting);
 
 /// The names of the domains the system knows: on Windows the children of the directory namespace in
-/// its own order; on Linux the realms of the Kerberos configuration, the domains that winbind trusts
-/// where it runs, and the resolver's search domains, each name once. Empty when there are none or
-/// they cannot be asked for.
+/// its own order; on Linux the realms of the Kerberos configuration, the domains that winbind
+/// trusts where it runs, and the resolver's search domains, each name once. Empty when there are
+/// none or they cannot be asked for.
 std::vector<std::string> DomainNames();
 
 } // namespace platform
