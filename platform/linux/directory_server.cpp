@@ -82,22 +82,38 @@ std::vector<Server> ServiceRecords(const std::string& name) {
     return servers;
 }
 
-// "host:port", but not an address of several colons.
+// "host:port". An address of several colons stands in brackets when a port follows it.
 bool SplitPort(const std::string& text, Server& server) {
     const std::size_t colon = text.rfind(':');
-    if (colon == std::string::npos || text.find(':') != colon) {
+    const bool bracketed = text.starts_with('[') && text.rfind("]:") == colon - 1;
+    if (colon == std::string::npos || (!bracketed && text.find(':') != colon)) {
         return false;
     }
     const char* const end = text.data() + text.size();
     const auto [rest, error] = std::from_chars(text.data() + colon + 1, end, server.port);
-    server.host = text.substr(0, colon);
+    server.host = bracketed ? text.substr(1, colon - 2) : text.substr(0, colon);
     return error == std::errc{} && rest == end && server.port > 0 && server.port <= 0xFFFF;
+}
+
+bool IsAddress(const std::string& host) {
+    addrinfo hints{};
+    hints.ai_flags = AI_NUMERICHOST;
+    addrinfo* found = nullptr;
+    if (getaddrinfo(host.c_str(), nullptr, &hints, &found) != 0) {
+        return false;
+    }
+    freeaddrinfo(found);
+    return true;
 }
 
 std::vector<Server> ServersOf(const std::string& domain) {
     Server named;
     if (SplitPort(domain, named)) {
         return {named};
+    }
+    // Nobody keeps records for an address, and a name server out of reach would be waited for.
+    if (IsAddress(domain)) {
+        return {Server{.host = domain}};
     }
     for (const char* service : {"_ldap._tcp.dc._msdcs.", "_ldap._tcp."}) {
         if (std::vector<Server> servers = ServiceRecords(service + domain); !servers.empty()) {
@@ -137,6 +153,23 @@ struct Address {
     int port = 0;
     std::string host;
 };
+
+std::vector<Address> AddressesFrom(const std::string& lines) {
+    std::istringstream stream(lines);
+    std::vector<Address> addresses;
+    Address address;
+    while (stream >> address.text >> address.port && stream.get() == ' ' &&
+           std::getline(stream, address.host)) {
+        addresses.push_back(address);
+    }
+    return addresses;
+}
+
+// A server that is down may take all the time it is given: the next ones need theirs.
+Deadline ShareOf(Deadline deadline, std::size_t servers) {
+    const Deadline now = std::chrono::steady_clock::now();
+    return now + (deadline - now) / static_cast<Deadline::rep>(servers);
+}
 
 int OpenSocket(const Address& address, Deadline deadline, const KeepWaiting& keepWaiting) {
     addrinfo hints{};
@@ -187,12 +220,11 @@ ServerConnection ConnectToDirectory(const std::string& domain, Deadline deadline
     if (lines->starts_with("! ")) {
         return {.error = NoServer(lines->substr(2))};
     }
-    std::istringstream stream(*lines);
-    Address address;
+    const std::vector<Address> addresses = AddressesFrom(*lines);
+    std::size_t left = addresses.size();
     std::string reason;
-    while (stream >> address.text >> address.port && stream.get() == ' ' &&
-           std::getline(stream, address.host)) {
-        const int descriptor = OpenSocket(address, deadline, keepWaiting);
+    for (const Address& address : addresses) {
+        const int descriptor = OpenSocket(address, ShareOf(deadline, left--), keepWaiting);
         if (descriptor >= 0) {
             return {.descriptor = descriptor, .host = address.host, .port = address.port};
         }

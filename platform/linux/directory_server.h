@@ -16,8 +16,8 @@ struct ServerConnection {
 };
 
 /// Connects to a domain controller of `domain`, found by the service records that the domain keeps
-/// in DNS, or to the host of that name when it keeps none. "host:port" names a server directly. The
-/// text is only ever looked up as a name.
+/// in DNS, or to the host of that name when it keeps none. "host:port" and "[address]:port" name a
+/// server directly. The text is only ever looked up as a name.
 ServerConnection ConnectToDirectory(const std::string& domain, Deadline deadline,
                                     const KeepWaiting& keepWaiting);
 

@@ -5,6 +5,7 @@
 #include "platform/utf8.h"
 
 #include <array>
+#include <csignal>
 #include <cstddef>
 #include <utility>
 
@@ -53,9 +54,22 @@ int NothingToAsk(LDAP* /*session*/, unsigned /*flags*/, void* /*defaults*/, void
     return LDAP_SUCCESS;
 }
 
+// The library writes to its connection in such a way that the system ends a process whose server
+// has gone. For good, since its farewell is a write as well; whoever handles the signal keeps doing
+// so.
+void IgnoreBrokenPipes() {
+    struct sigaction action {};
+    if (sigaction(SIGPIPE, nullptr, &action) == 0 && action.sa_handler == SIG_DFL) {
+        action.sa_handler = SIG_IGN;
+        sigaction(SIGPIPE, &action, nullptr);
+    }
+}
+
 class LdapDirectory : public DirectoryService {
 public:
-    explicit LdapDirectory(KeepWaiting keepWaiting) : keepWaiting_(std::move(keepWaiting)) {}
+    explicit LdapDirectory(KeepWaiting keepWaiting) : keepWaiting_(std::move(keepWaiting)) {
+        IgnoreBrokenPipes();
+    }
 
     ~LdapDirectory() override {
         if (session_ != nullptr) {

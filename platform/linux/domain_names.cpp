@@ -18,8 +18,12 @@ namespace platform {
 
 namespace {
 
-// Names of domains differ in more than the case of their letters.
+// A domain is the same in letters of another case, and with the dot of the root behind it. Search
+// lists may hold that dot alone.
 void AddOnce(std::vector<std::string>& names, std::string_view text) {
+    while (text.ends_with('.')) {
+        text.remove_suffix(1);
+    }
     std::string name = ValidUtf8(text);
     const bool known = std::ranges::any_of(names, [&name](const std::string& other) {
         return strcasecmp(other.c_str(), name.c_str()) == 0;

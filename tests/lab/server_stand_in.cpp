@@ -105,6 +105,10 @@ StandIn StandIn::Silent() {
     return StandIn([](int) { WaitForEver(); });
 }
 
+StandIn StandIn::HangingUp() {
+    return StandIn([](int client) { close(client); });
+}
+
 StandIn StandIn::Answering(const std::string& bytes) {
     return StandIn([bytes](int client) {
         std::array<char, 16384> request{};

@@ -17,6 +17,9 @@ public:
     /// Takes connections and never answers.
     static StandIn Silent();
 
+    /// Ends a connection as soon as it has taken it.
+    static StandIn HangingUp();
+
     /// Answers every request with these bytes.
     static StandIn Answering(const std::string& bytes);
 
