@@ -4,10 +4,14 @@
 #include "wizard/icons.h"
 
 #include <wx/accel.h>
+#include <wx/button.h>
 #include <wx/html/helpdata.h>
 #include <wx/html/htmlwin.h>
+#include <wx/listbox.h>
 #include <wx/log.h>
+#include <wx/notebook.h>
 #include <wx/sizer.h>
+#include <wx/textctrl.h>
 #include <wx/treectrl.h>
 
 #include <array>
@@ -50,12 +54,27 @@ HelpPane::HelpPane(wxWindow* parent) {
         wxAcceleratorEntry(wxACCEL_ALT, WXK_LEFT, wxID_HTML_BACK),
         wxAcceleratorEntry(wxACCEL_ALT, WXK_RIGHT, wxID_HTML_FORWARD)};
     SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(keys.size()), keys.data()));
+    platform::ui::NameControl(*m_NavigNotebook, "sstHelp");
     platform::ui::NameControl(*GetTreeCtrl(), "tvwHelpContents", "Contents");
+    platform::ui::NameControl(*m_IndexText, "txtHelpIndex", "Index word");
+    platform::ui::NameControl(*m_IndexList, "lstHelpIndex", "Index");
+    platform::ui::NameControl(*m_SearchText, "txtHelpSearch", "Search for");
+    platform::ui::NameControl(*m_SearchButton, "cmdHelpSearch");
+    platform::ui::NameControl(*m_SearchList, "lstHelpFound", "Topics found");
     platform::ui::NameControl(*GetHtmlWindow(), "htmHelpTopic");
     Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
         DescribeTopic();
         event.Skip();
     });
+    m_SearchButton->Bind(wxEVT_BUTTON, &HelpPane::Search, this);
+    m_SearchText->Bind(wxEVT_TEXT_ENTER, &HelpPane::Search, this);
+}
+
+// The toolkit disables the window while it searches, and gives the focus back too early for GTK:
+// no key would be heard afterwards.
+void HelpPane::Search(wxCommandEvent& event) {
+    OnSearch(event);
+    m_SearchText->SetFocus();
 }
 
 bool HelpPane::Open(const wxString& book) {

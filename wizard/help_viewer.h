@@ -25,6 +25,7 @@ public:
 
 private:
     void DescribeTopic();
+    void Search(wxCommandEvent& event);
 
     wxString described_;
 };

@@ -3,6 +3,7 @@
 
 #include "files/new_ini.h"
 
+#include <wx/bookctrl.h>
 #include <wx/treectrl.h>
 
 namespace window_test {
@@ -91,6 +92,24 @@ TEST_F(HelpViewer, EscapeClosesTheViewer) {
     WaitFor([] { return Viewer() == nullptr; }, "the viewer to close");
     window->ShowHelpContext(1045);
     EXPECT_EQ(ShownTitle(), "Support");
+}
+
+TEST_F(HelpViewer, TheKeyboardIsHeardAfterASearch) {
+    Start(kActiveDirectory);
+    Show();
+    window->ShowHelpContext(1013);
+    HelpFrame* const viewer = Viewer();
+    BringToFront(viewer);
+    Find<wxBookCtrlBase>(viewer, "sstHelp")->SetSelection(2);
+    FocusOn(Find(viewer, "txtHelpSearch"));
+    Type("LPT1");
+    ClickOn(Find(viewer, "cmdHelpSearch"));
+    WaitFor([] { return ShownTitle() == "Drivers"; }, "the topic to be found");
+    EXPECT_EQ(ItemsIn(viewer, "lstHelpFound"), Texts{"Drivers"});
+    Type("x"); // in place of the word searched for, which is selected
+    WaitFor([viewer] { return TextIn(viewer, "txtHelpSearch") == "x"; }, "the key to be heard");
+    Press(WXK_ESCAPE);
+    EXPECT_TRUE(WaitFor([] { return Viewer() == nullptr; }, "the viewer to close"));
 }
 
 TEST_F(HelpViewer, TheViewerClosesWithTheMainWindow) {
