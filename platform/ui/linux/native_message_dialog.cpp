@@ -25,7 +25,31 @@ struct Pending {
     bool done = false;
 };
 
-// GTK creates the box inside ShowModal, so its icon is put in when it is about to be seen.
+// A box is as wide as its text, which may be a single figure: the caption would not be readable.
+void FitCaption(GtkWidget* box) {
+    constexpr int kBesideCaption = 130; // the frame, the window's icon and the buttons it may have
+    const char* const caption = gtk_window_get_title(GTK_WINDOW(box));
+    PangoLayout* const layout = gtk_widget_create_pango_layout(box, caption);
+    PangoAttrList* const bold = pango_attr_list_new();
+    pango_attr_list_insert(bold, pango_attr_weight_new(PANGO_WEIGHT_BOLD));
+    pango_layout_set_attributes(layout, bold);
+    int width = 0;
+    pango_layout_get_pixel_size(layout, &width, nullptr);
+    pango_attr_list_unref(bold);
+    g_object_unref(layout);
+    gtk_widget_set_size_request(box, width + kBesideCaption, -1);
+}
+
+void PutIcon(GtkMessageDialog* box, const char* iconName) {
+    GtkWidget* const image = gtk_image_new_from_icon_name(iconName, GTK_ICON_SIZE_DIALOG);
+    gtk_widget_set_valign(image, GTK_ALIGN_START);
+    gtk_widget_show(image);
+    G_GNUC_BEGIN_IGNORE_DEPRECATIONS
+    gtk_message_dialog_set_image(box, image);
+    G_GNUC_END_IGNORE_DEPRECATIONS
+}
+
+// GTK creates the box inside ShowModal, so it is furnished when it is about to be seen.
 gboolean OnShow(GSignalInvocationHint* /*hint*/, guint /*count*/, const GValue* values,
                 gpointer data) {
     auto* const widget = static_cast<GtkWidget*>(g_value_get_object(values));
@@ -33,12 +57,10 @@ gboolean OnShow(GSignalInvocationHint* /*hint*/, guint /*count*/, const GValue* 
         return TRUE;
     }
     auto* const pending = static_cast<Pending*>(data);
-    GtkWidget* const image = gtk_image_new_from_icon_name(pending->iconName, GTK_ICON_SIZE_DIALOG);
-    gtk_widget_set_valign(image, GTK_ALIGN_START);
-    gtk_widget_show(image);
-    G_GNUC_BEGIN_IGNORE_DEPRECATIONS
-    gtk_message_dialog_set_image(GTK_MESSAGE_DIALOG(widget), image);
-    G_GNUC_END_IGNORE_DEPRECATIONS
+    FitCaption(widget);
+    if (pending->iconName != nullptr) {
+        PutIcon(GTK_MESSAGE_DIALOG(widget), pending->iconName);
+    }
     pending->done = true;
     return FALSE; // takes the hook away
 }
@@ -47,9 +69,6 @@ gboolean OnShow(GSignalInvocationHint* /*hint*/, guint /*count*/, const GValue* 
 
 int NativeMessageDialog::ShowModal() {
     Pending pending{IconName(GetMessageDialogStyle())};
-    if (pending.iconName == nullptr) {
-        return wxMessageDialog::ShowModal();
-    }
     const guint signal = g_signal_lookup("show", GTK_TYPE_WIDGET);
     const gulong hook = g_signal_add_emission_hook(signal, 0, OnShow, &pending, nullptr);
     const int answer = wxMessageDialog::ShowModal();

@@ -1,8 +1,11 @@
-// The icon that a message box really shows; the box itself is what is looked at.
+// The icon and the caption that a message box really shows; the box itself is what is looked at.
 
 #include "platform/message.h"
 #include "platform/ui/message_box.h"
 #include "tests/support/window/window_test.h"
+
+#include <functional>
+#include <string>
 
 #include <gtk/gtk.h>
 #include <wx/app.h>
@@ -38,21 +41,39 @@ std::string IconOf(GtkWidget* box) {
     return name == nullptr ? "" : name;
 }
 
-// The name of the icon that a box like this one really shows; "" for a box without one.
-std::string IconShown(Icon icon) {
-    std::string name = "no box";
+// Shows a message, looks at its box and answers it. False when there was no box.
+bool LookAt(const platform::Message& message, const std::function<void(GtkWidget*)>& look) {
+    bool seen = false;
     ModalScript script;
-    script.ExpectDialog<wxMessageDialog>([&name](wxMessageDialog&) {
-        wxTheApp->CallAfter([&name] {
+    script.ExpectDialog<wxMessageDialog>([&](wxMessageDialog&) {
+        wxTheApp->CallAfter([&] {
             if (GtkWidget* const box = ShownMessageBox(); box != nullptr) {
-                name = IconOf(box);
+                seen = true;
+                look(box);
                 gtk_dialog_response(GTK_DIALOG(box), GTK_RESPONSE_OK);
             }
         });
         return static_cast<int>(wxID_NONE);
     });
-    platform::ShowMessage({"Text", "Caption", Buttons::Ok, icon});
-    return name;
+    platform::ShowMessage(message);
+    return seen;
+}
+
+// The name of the icon that a box like this one really shows; "" for a box without one.
+std::string IconShown(Icon icon) {
+    std::string name;
+    const bool seen = LookAt({"Text", "Caption", Buttons::Ok, icon},
+                             [&name](GtkWidget* box) { name = IconOf(box); });
+    return seen ? name : "no box";
+}
+
+int WidthOf(const std::string& text) {
+    GtkWidget* const label = gtk_label_new(text.c_str());
+    g_object_ref_sink(label);
+    int width = 0;
+    gtk_widget_get_preferred_width(label, nullptr, &width);
+    g_object_unref(label);
+    return width;
 }
 
 TEST(MessageIcon, EachBoxShowsTheIconItWasAskedFor) {
@@ -63,6 +84,19 @@ TEST(MessageIcon, EachBoxShowsTheIconItWasAskedFor) {
     EXPECT_EQ(IconShown(Icon::Exclamation), "dialog-warning");
     EXPECT_EQ(IconShown(Icon::Information), "dialog-information");
     EXPECT_EQ(IconShown(Icon::None), "");
+}
+
+TEST(MessageCaption, HasRoomInABoxWhoseTextIsShort) {
+    platform::ui::InstallMessageBoxes();
+    HostFrame host;
+    const std::string caption = "Queueshift Deployment Toolkit";
+    for (const Icon icon : {Icon::None, Icon::Exclamation}) {
+        int width = 0;
+        EXPECT_TRUE(LookAt({"7", caption, Buttons::Ok, icon}, [&width](GtkWidget* box) {
+            gtk_widget_get_preferred_width(box, &width, nullptr);
+        }));
+        EXPECT_GT(width, WidthOf(caption));
+    }
 }
 
 } // namespace
