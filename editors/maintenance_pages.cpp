@@ -3,6 +3,7 @@
 #include "document/item_text.h"
 #include "platform/ui/control_name.h"
 #include "platform/ui/one_line.h"
+#include "platform/ui/same_choice.h"
 
 #include <array>
 
@@ -76,6 +77,8 @@ void ApplyReserved(wxTextCtrl& box, const char* reserved, const wxListBox& list)
 wxChoice* MakeChoice(wxWindow* parent, const wxString& name, const wxString& label) {
     auto* const choice = new wxChoice(parent, wxID_ANY);
     NameControl(*choice, name, label);
+    // The type chosen once more puts its reserved text back into an emptied box.
+    platform::ui::TellEveryChoice(*choice);
     return choice;
 }
 
