@@ -124,6 +124,24 @@ TEST_F(SMTPPage, RemoveAsksEvenWhenThereIsNothingToRemove) {
     EXPECT_FALSE(Changed());
 }
 
+TEST_F(SMTPPage, NoRecipientIsSelectedInTheRemovedOnesPlace) {
+    Tick(page, "chkUseSMTP");
+    PutItems(page, "lstToEmailAddresses", {"a@x", "b@x", "c@x"});
+    Show();
+    auto* const list = Find<wxListBox>(page, "lstToEmailAddresses");
+    ClickOn(list, RowPoint(*list, 1));
+    WaitFor([this] { return RowIn(page, "lstToEmailAddresses") == 1; }, "the recipient");
+    // The second time nobody is there to be removed.
+    for (int i = 0; i < 2; ++i) {
+        ModalScript dialogs;
+        dialogs.ExpectMessage(kRemoveQuestion, Answer::Yes);
+        ClickOn(Find(page, "cmdRemoveSendEmail"));
+        WaitFor([&dialogs] { return dialogs.Done(); }, "the question");
+        EXPECT_EQ(ItemsIn(page, "lstToEmailAddresses"), (Texts{"a@x", "c@x"}));
+        EXPECT_EQ(RowIn(page, "lstToEmailAddresses"), wxNOT_FOUND);
+    }
+}
+
 TEST_F(SMTPPage, ThePortCheckAcceptsNothingAndNumbersOnly) {
     for (const char* port : {"", "25", "0", "70000", "99999", "25.5", "-1", "+1", " 25 "}) {
         PutText(page, "txtSMTPServerPort", port);

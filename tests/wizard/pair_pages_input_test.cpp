@@ -59,6 +59,7 @@ TEST_F(PairInput, AClickIsHeardOnTheRowThatTookThePlaceOfTheDeletedOne) {
                           platform::Answer::Yes);
     ClickOn(Find(window, "cmdDeleteServer"));
     WaitFor([this] { return ItemsIn(window, "lstServerPairs") == Texts{"C -> D"}; }, "the delete");
+    EXPECT_EQ(RowIn(window, "lstServerPairs"), wxNOT_FOUND);
     // Elsewhere on the row, so that the two clicks make no double click.
     auto* const list = Find<wxListBox>(window, "lstServerPairs");
     ClickOn(list, RowPoint(*list, 0) + wxPoint(40, 0));

@@ -110,6 +110,31 @@ TEST_F(Reopen, AnActiveDirectoryDocumentKeepsEveryValue) {
     ExpectSameAfterReopening(kActiveDirectory);
 }
 
+TEST_F(Reopen, AnotherDocumentTakesAFieldAwayUnchecked) {
+    Start(kManual);
+    Tick(window, "chkUseSMTP");
+    Show();
+    GoTo(4);
+    ClickOn(Find(window, "txtSMTPServerPort"));
+    Type("abc");
+    const test::TemporaryFolder folder;
+    test::WriteBytes(folder.File("new.ini"),
+                     test::ReadBytes(std::string(QUEUESHIFT_TEST_DATA) + "/document/new.ini"));
+    ModalScript dialogs;
+    dialogs.ExpectMessage({"Do you want to save your changes before opening a new INI file?",
+                           "Save?", platform::Buttons::YesNo, platform::Icon::Question},
+                          platform::Answer::No);
+    dialogs.ExpectFileDialog({false, "Open INI File ...", "", "Queueshift (*.ini)|*.ini"},
+                             folder.File("new.ini"));
+    Press('O', wxMOD_CONTROL);
+    WaitFor([&dialogs] { return dialogs.Done(); }, "the other document");
+    Pump();
+    EXPECT_EQ(CurrentPage(), 0);
+    EXPECT_EQ(TextIn(window, "txtSMTPServerPort"), "25");
+    EXPECT_FALSE(IsEnabled(window, "txtSMTPServerPort"));
+    EXPECT_FALSE(Changed());
+}
+
 TEST_F(Reopen, ANewDocumentInheritsTheDefaultPrinterAndTheSupportSwitch) {
     Start(kManual);
     Pick(window, "optDefault(2)");
