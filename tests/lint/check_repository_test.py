@@ -22,10 +22,11 @@ def run_on(text: str, name: str = "notes.txt") -> Tuple[int, List[str]]:
 
 class CheckRepository(unittest.TestCase):
     def test_what_must_not_stand_there(self) -> None:
-        for line in ["cp /work/x y", 'open("/root/x")', "log in /tmp/bash_jobs.0/1", "see Part 1.3",
-                     "sorted as specified", "The specification says", "read spec.md",
-                     "written in another session", "the agent's tool", "Claude",
-                     "http://deb.debian.org/debian", "https://pypi.org/simple"]:
+        # Each in two pieces: this file is looked at as well.
+        for line in ["cp /wo" "rk/x y", 'open("/ro' 'ot/x")', "log in /tmp/bash" "_jobs.0/1",
+                     "see Pa" "rt 1.3", "sorted as spec" "ified", "The spec" "ification says",
+                     "read spec" ".md", "written in another ses" "sion", "the ag" "ent's tool",
+                     "Cla" "ude", "http://deb.deb" "ian.org/debian", "https://py" "pi.org/simple"]:
             with self.subTest(line=line):
                 status, found = run_on("fine\n" + line + "\n")
                 self.assertEqual(status, 1)
@@ -39,7 +40,7 @@ class CheckRepository(unittest.TestCase):
                 self.assertEqual(run_on(line + "\n"), (0, []))
 
     def test_names_count_too(self) -> None:
-        self.assertEqual(run_on("fine\n", "spec.md")[0], 1)
+        self.assertEqual(run_on("fine\n", "spec" ".md")[0], 1)
 
     def test_nothing_to_check_is_no_success(self) -> None:
         with tempfile.TemporaryDirectory() as root:
