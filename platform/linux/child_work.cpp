@@ -8,6 +8,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -25,8 +26,13 @@ void WriteAll(int descriptor, std::string_view text) {
     }
 }
 
-// Ends without the exit handlers: they belong to the process that was copied.
-[[noreturn]] void RunChild(const std::function<std::string()>& work, int descriptor) {
+// Ends without the exit handlers: they belong to the process that was copied. Nor does it outlive
+// that one, whose windows would stay on the screen for as long as somebody holds their connection.
+[[noreturn]] void RunChild(const std::function<std::string()>& work, int descriptor, pid_t parent) {
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != parent) {
+        _exit(EXIT_FAILURE);
+    }
     int status = EXIT_FAILURE;
     try {
         WriteAll(descriptor, work());
@@ -79,9 +85,10 @@ std::optional<std::string> ResultOfChild(const std::function<std::string()>& wor
     if (pipe2(ends.data(), O_CLOEXEC) != 0) {
         return std::nullopt;
     }
+    const pid_t parent = getpid();
     const pid_t child = fork();
     if (child == 0) {
-        RunChild(work, ends[1]);
+        RunChild(work, ends[1], parent);
     }
     close(ends[1]);
     std::optional<std::string> result;
