@@ -36,9 +36,7 @@ protected:
         std::setlocale(LC_ALL, "C");
     }
     void SetUp() override {
-        if (!entered_) {
-            GTEST_SKIP() << "the sources of locales are not installed";
-        }
+        ASSERT_TRUE(entered_) << "the sources of locales are missing: run script/bootstrap";
     }
 
 private:
