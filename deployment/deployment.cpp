@@ -32,12 +32,10 @@ void Report(std::string text, std::string caption, Icon icon) {
     platform::ShowMessage({std::move(text), std::move(caption), platform::Buttons::Ok, icon});
 }
 
-/// Copies into the folder and keeps the last failure until it is taken: the steps go on, and a
-/// later check point tells of it.
+/// Copies into the deployment folder and keeps the last failure until it is taken: the steps go on,
+/// and a later check point tells of it.
 class DeferredCopies {
 public:
-    explicit DeferredCopies(std::string_view folder) : folder_(folder) {}
-
     void Copy(const std::string& sourcePath, std::string_view name) {
         if (SystemError error = folder_.CopyInto(sourcePath, std::string(name))) {
             pending_ = std::move(error);
@@ -50,7 +48,7 @@ public:
     [[nodiscard]] bool FolderHolds(const std::string& name) const { return folder_.Holds(name); }
 
 private:
-    TypedFolder folder_;
+    TypedFolder folder_ = OpenDeploymentFolder();
     SystemError pending_;
 };
 
@@ -155,7 +153,7 @@ std::string MDACFileName() {
 }
 
 void DeployFiles() {
-    DeferredCopies copies(DeploymentFolder());
+    DeferredCopies copies;
     const bool deployed =
         IncludesMDAC() ? DeployWithInstaller(copies) : DeployWithoutInstaller(copies);
     if (!deployed) {

@@ -27,6 +27,8 @@ public:
     virtual bool IsMDACVersionSelected(int index) const = 0; ///< 0 to 2
     /// Adds 1 to the progress bar, shows the label and lets pending window events run.
     virtual void Advance(std::string_view label) = 0;
+    /// Called again and again while a share is slow; lets the windows be drawn.
+    virtual void Wait() {}
 };
 
 /// The window that deployment works for; null for none. Not owned; the host outlives the

@@ -7,7 +7,6 @@
 #include "platform/ansi.h"
 #include "platform/identity.h"
 #include "platform/message.h"
-#include "platform/typed_folder.h"
 
 #include <string>
 
@@ -27,8 +26,8 @@ struct FileKind {
 /// Writes one generated file into the deployment folder. A failure does not undo the copies, so
 /// the deployment still counts as done.
 void WriteGenerated(const FileKind& kind, std::string_view text) {
-    const platform::TypedFolder folder{DeploymentFolder()};
-    if (folder.WriteInto(g_strINIFileTitle + kind.extension, platform::AnsiFromUtf8(text))) {
+    if (OpenDeploymentFolder().WriteInto(g_strINIFileTitle + kind.extension,
+                                         platform::AnsiFromUtf8(text))) {
         platform::ShowMessage({"Error: Queueshift was unable to deploy your " + kind.inText +
                                    " file to the folder specified.\r\n\r\n"
                                    "Please check your file and folder permissions.",

@@ -42,4 +42,13 @@ void Advance(std::string_view label) {
     }
 }
 
+platform::TypedFolder OpenDeploymentFolder() {
+    return platform::TypedFolder(DeploymentFolder(), [] {
+        if (g_host != nullptr) {
+            g_host->Wait();
+        }
+        return true;
+    });
+}
+
 } // namespace modDeployment

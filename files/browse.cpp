@@ -2,6 +2,7 @@
 
 #include "platform/typed_folder.h"
 #include "platform/ui/folder_picker.h"
+#include "platform/ui/pump.h"
 
 namespace modBrowseForFolder {
 
@@ -10,7 +11,7 @@ std::string BrowseForFolder(wxWindow* owner) {
 }
 
 bool FolderExists(const std::string& path) {
-    return platform::TypedFolder(path).Exists();
+    return platform::TypedFolder(path, platform::ui::PumpPainting).Exists();
 }
 
 } // namespace modBrowseForFolder

@@ -6,6 +6,7 @@
 // steps decides when to look.
 #pragma once
 
+#include "platform/patience.h"
 #include "platform/system_error.h"
 
 #include <functional>
@@ -16,10 +17,6 @@
 #include <vector>
 
 namespace platform {
-
-/// Called again and again while an answer is awaited, so that the caller can let its window live.
-/// False abandons the query: the step under way fails soon, and what it reports is of no interest.
-using KeepWaiting = std::function<bool()>;
 
 class DirectoryService {
 public:

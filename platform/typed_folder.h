@@ -2,10 +2,12 @@
 //
 // On Windows the text is the system's own path. On Linux "\" and "/" separate alike, because an
 // administrator types the same path on either system; a text that starts with two separators is a
-// network path and never means a local folder (until network shares are reachable it does not
-// exist). File names that are put into the folder are taken as they are, never translated.
+// network path and never means a local folder: its share is reached by SMB, as the current user by
+// Kerberos or as a guest, and what a share takes too long to answer fails. File names that are put
+// into the folder are taken as they are, never translated.
 #pragma once
 
+#include "platform/patience.h"
 #include "platform/system_error.h"
 
 #include <string>
@@ -15,8 +17,10 @@ namespace platform {
 
 class TypedFolder {
 public:
-    /// `typed` is UTF-8, used as it stands (blanks and trailing separators included).
-    explicit TypedFolder(std::string_view typed);
+    /// `typed` is UTF-8, used as it stands (blanks and trailing separators included). Where the
+    /// system leaves room for it, `keepWaiting` is called while a share is slow.
+    explicit TypedFolder(
+        std::string_view typed, KeepWaiting keepWaiting = [] { return true; });
 
     /// True when the folder can be found and is a folder. "" does not exist.
     [[nodiscard]] bool Exists() const;
@@ -36,6 +40,7 @@ public:
 
 private:
     std::string typed_;
+    KeepWaiting keepWaiting_;
 };
 
 } // namespace platform

@@ -74,6 +74,10 @@ bool frmWizard::IsMDACVersionSelected(int index) const {
     return mdac->optMDACVersion.Selected() == index;
 }
 
+void frmWizard::Wait() {
+    platform::ui::PumpPainting();
+}
+
 void frmWizard::Advance(std::string_view label) {
     progress_->Advance(label);
 }

@@ -88,6 +88,7 @@ public:
     bool IncludesMDAC() const override;
     bool IsMDACVersionSelected(int index) const override;
     void Advance(std::string_view label) override;
+    void Wait() override;
 
     wxSimplebook* sstWizard = nullptr; ///< without tabs: tree, menu and Next/Back lead to a page
     std::unique_ptr<platform::ui::NativeTree> tvwWizardOptions;

@@ -5,7 +5,7 @@
 // window live meanwhile, and ends the child when its patience does.
 #pragma once
 
-#include "platform/directory_service.h"
+#include "platform/patience.h"
 
 #include <chrono>
 #include <functional>
@@ -25,6 +25,15 @@ using Deadline = std::chrono::steady_clock::time_point;
 /// files and the Kerberos credential cache.
 std::optional<std::string> ResultOfChild(const std::function<std::string()>& work,
                                          Deadline deadline, const KeepWaiting& keepWaiting);
+
+/// Called in the child to show that its work goes on.
+using Progress = std::function<void()>;
+
+/// The same for work that may take any time as long as it shows progress: ends when `silence` has
+/// passed without any. The result must not begin with a NUL character.
+std::optional<std::string>
+ResultOfLongChild(const std::function<std::string(const Progress&)>& work,
+                  std::chrono::milliseconds silence, const KeepWaiting& keepWaiting);
 
 /// Waits until one of `events` (POLLIN, POLLOUT) holds on the descriptor. False when the deadline
 /// passed or the wait was abandoned.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/linux/child_work.h"
+#include "platform/system_error.h"
 
 #include <string>
 

@@ -1,6 +1,7 @@
 #include "platform/typed_folder.h"
 
 #include "platform/linux/file_replacement.h"
+#include "platform/linux/network_share.h"
 #include "platform/program.h"
 
 #include <fcntl.h>
@@ -10,25 +11,22 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <optional>
+#include <utility>
 
 namespace platform {
 
 namespace {
 
-constexpr bool IsSeparator(char character) {
-    return character == '/' || character == '\\';
-}
-
-/// The local folder that the text means, or nothing when it means none.
-std::optional<std::string> LocalFolder(std::string_view typed) {
-    const bool network = typed.size() >= 2 && IsSeparator(typed[0]) && IsSeparator(typed[1]);
-    if (typed.empty() || network) {
-        return std::nullopt;
-    }
+/// A text that is no network path means this local folder.
+std::string LocalFolder(std::string_view typed) {
     std::string folder(typed);
     std::ranges::replace(folder, '\\', '/');
     return folder;
+}
+
+/// Joined to no folder a name would mean the root; a network path without a computer is none.
+bool IsNowhere(std::string_view typed) {
+    return typed.empty() || IsNetworkPath(typed);
 }
 
 bool SameFile(const struct stat& one, const struct stat& other) {
@@ -119,29 +117,41 @@ int WriteFile(const std::string& path, std::string_view bytes) {
 
 } // namespace
 
-TypedFolder::TypedFolder(std::string_view typed) : typed_(typed) {}
+TypedFolder::TypedFolder(std::string_view typed, KeepWaiting keepWaiting)
+    : typed_(typed), keepWaiting_(std::move(keepWaiting)) {}
 
 bool TypedFolder::Exists() const {
-    const auto folder = LocalFolder(typed_);
+    if (const auto path = ParseNetworkPath(typed_)) {
+        return IsNetworkFolder(*path, keepWaiting_);
+    }
     struct stat status {};
-    return folder && stat(folder->c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+    return !IsNowhere(typed_) && stat(LocalFolder(typed_).c_str(), &status) == 0 &&
+           S_ISDIR(status.st_mode);
 }
 
 bool TypedFolder::Holds(const std::string& name) const {
-    const auto folder = LocalFolder(typed_);
+    if (const auto path = ParseNetworkPath(typed_)) {
+        return NetworkFolderHolds(*path, name, keepWaiting_);
+    }
     struct stat status {};
-    return folder && stat(JoinPath(*folder, name).c_str(), &status) == 0 &&
+    return !IsNowhere(typed_) && stat(JoinPath(LocalFolder(typed_), name).c_str(), &status) == 0 &&
            !S_ISDIR(status.st_mode);
 }
 
 SystemError TypedFolder::CopyInto(const std::string& sourcePath, const std::string& name) const {
-    const auto folder = LocalFolder(typed_);
-    return SystemErrorFromNumber(folder ? CopyFileTo(sourcePath, JoinPath(*folder, name)) : ENOENT);
+    if (const auto path = ParseNetworkPath(typed_)) {
+        return CopyToNetwork(sourcePath, *path, name, keepWaiting_);
+    }
+    return SystemErrorFromNumber(
+        IsNowhere(typed_) ? ENOENT : CopyFileTo(sourcePath, JoinPath(LocalFolder(typed_), name)));
 }
 
 SystemError TypedFolder::WriteInto(const std::string& name, std::string_view bytes) const {
-    const auto folder = LocalFolder(typed_);
-    return SystemErrorFromNumber(folder ? WriteFile(JoinPath(*folder, name), bytes) : ENOENT);
+    if (const auto path = ParseNetworkPath(typed_)) {
+        return WriteToNetwork(bytes, *path, name, keepWaiting_);
+    }
+    return SystemErrorFromNumber(
+        IsNowhere(typed_) ? ENOENT : WriteFile(JoinPath(LocalFolder(typed_), name), bytes));
 }
 
 } // namespace platform

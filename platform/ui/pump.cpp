@@ -41,4 +41,11 @@ void PumpWhenDue() {
     }
 }
 
+bool PumpPainting() {
+    if (wxEventLoopBase* const loop = wxEventLoopBase::GetActive(); loop != nullptr) {
+        loop->YieldFor(wxEVT_CATEGORY_UI);
+    }
+    return true;
+}
+
 } // namespace platform::ui

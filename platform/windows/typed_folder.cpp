@@ -4,6 +4,7 @@
 #include "platform/windows/wide.h"
 
 #include <optional>
+#include <utility>
 
 namespace platform {
 
@@ -87,7 +88,8 @@ std::wstring PathIn(const std::string& folder, const std::string& name) {
 
 } // namespace
 
-TypedFolder::TypedFolder(std::string_view typed) : typed_(typed) {}
+TypedFolder::TypedFolder(std::string_view typed, KeepWaiting keepWaiting)
+    : typed_(typed), keepWaiting_(std::move(keepWaiting)) {}
 
 bool TypedFolder::Exists() const {
     const DWORD attributes = GetFileAttributesW(WideFromUtf8(typed_).c_str());

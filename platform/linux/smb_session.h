@@ -1,0 +1,49 @@
+// The SMB client library, for use in a child process only: its calls block, and what it keeps is
+// global. All functions return 0 or errno.
+#pragma once
+
+#include "platform/linux/child_work.h"
+#include "platform/linux/network_path.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <sys/stat.h>
+
+namespace platform::smb {
+
+/// Makes the library ready: the current user's Kerberos credentials, else a guest.
+int Begin();
+
+int Stat(const std::string& url, struct stat& status);
+
+/// Writes to the descriptor of the library that it is given.
+using Fill = std::function<int(int descriptor)>;
+
+/// Puts a new file, written beside it by `fill`, in the place of `name` in one step of the
+/// server's. The file gets the times of `times`, when there are any.
+int Replace(const NetworkPath& folder, const std::string& name, const Fill& fill,
+            const struct stat* times);
+
+/// Writes all bytes, in pieces as large as the network makes worth while.
+class Writer {
+public:
+    Writer(int descriptor, const Progress& progress)
+        : descriptor_(descriptor), progress_(progress) {}
+
+    /// How many bytes are best given to the next Write.
+    [[nodiscard]] std::size_t PieceSize() const { return size_; }
+    int Write(std::string_view bytes);
+
+private:
+    int descriptor_;
+    const Progress& progress_;
+    std::size_t size_ = std::size_t{256} << 10;
+};
+
+/// The names of the entries of one of `types` (SMBC_DIR, SMBC_FILE_SHARE).
+int List(const std::string& url, unsigned type, std::vector<std::string>& names);
+
+} // namespace platform::smb
