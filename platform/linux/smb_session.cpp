@@ -141,7 +141,7 @@ int List(const std::string& url, unsigned type, std::vector<std::string>& names)
         return errno;
     }
     errno = 0;
-    while (const smbc_dirent* entry = smbc_readdir(folder)) {
+    while (const smbc_dirent* entry = smbc_readdir(static_cast<unsigned>(folder))) {
         const std::string name(entry->name);
         if (entry->smbc_type == type && name != "." && name != "..") {
             names.push_back(name);

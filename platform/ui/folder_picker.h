@@ -13,8 +13,8 @@ std::string PickFolder(wxWindow* owner);
 /// A computer (`\\NAME`), share or folder of the network; "" when cancelled. `newDialogStyle`
 /// chooses the system's resizable dialog, `noNewFolderButton` leaves its New Folder button out.
 ///
-/// On Linux, for now, the folders of this computer and what is mounted on it; the network is not
-/// browsed.
+/// On Linux there is one dialog, resizable and without that button, in which the user types the
+/// computer's name.
 std::string PickNetworkFolder(wxWindow* owner, bool newDialogStyle, bool noNewFolderButton);
 
 } // namespace platform::ui

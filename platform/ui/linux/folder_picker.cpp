@@ -1,5 +1,6 @@
 #include "platform/ui/folder_picker.h"
 
+#include "platform/ui/linux/network_folder_dialog.h"
 #include "platform/ui/text.h"
 #include "platform/volumes.h"
 
@@ -20,22 +21,19 @@ public:
     }
 };
 
-std::string Pick(wxWindow* owner, const wxString& title, long style) {
-    // Without a folder to begin with the chooser opens on its recent files, where there is nothing
-    // to pick.
-    Picker picker(owner, title, ToWx(StartFolder()), style);
-    return picker.ShowModal() == wxID_OK ? FromWx(picker.GetPath()) : std::string();
-}
-
 } // namespace
 
 std::string PickFolder(wxWindow* owner) {
-    return Pick(owner, "Please select a folder.", wxDD_DEFAULT_STYLE);
+    // Without a folder to begin with the chooser opens on its recent files, where there is nothing
+    // to pick.
+    Picker picker(owner, "Please select a folder.", ToWx(StartFolder()), wxDD_DEFAULT_STYLE);
+    return picker.ShowModal() == wxID_OK ? FromWx(picker.GetPath()) : std::string();
 }
 
-std::string PickNetworkFolder(wxWindow* owner, bool /*newDialogStyle*/, bool noNewFolderButton) {
-    return Pick(owner, "Select a network computer or share.",
-                noNewFolderButton ? wxDD_DEFAULT_STYLE | wxDD_DIR_MUST_EXIST : wxDD_DEFAULT_STYLE);
+std::string PickNetworkFolder(wxWindow* owner, bool /*newDialogStyle*/,
+                              bool /*noNewFolderButton*/) {
+    NetworkFolderDialog dialog(owner);
+    return dialog.ShowModal() == wxID_OK ? dialog.Picked() : std::string();
 }
 
 } // namespace platform::ui

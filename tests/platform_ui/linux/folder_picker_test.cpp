@@ -17,14 +17,5 @@ TEST(FolderPicker, GivesThePickedFolderOrNothing) {
     EXPECT_EQ(modBrowseForFolder::BrowseForFolder(nullptr), "");
 }
 
-TEST(FolderPicker, TheNetworkPickerHasItsOwnTitle) {
-    const test::TemporaryFolder folder;
-    ModalScript dialogs;
-    dialogs.ExpectFolderDialog("Select a network computer or share.", folder.Path());
-    EXPECT_EQ(modBrowseForNetworkFolder::BrowseForNetworkFolder(nullptr), folder.Path());
-    dialogs.ExpectFolderDialog("Select a network computer or share.", "");
-    EXPECT_EQ(modBrowseForNetworkFolder::BrowseForNetworkFolder(nullptr), "");
-}
-
 } // namespace
 } // namespace window_test

@@ -1,0 +1,216 @@
+#include "platform/ui/linux/network_folder_dialog.h"
+
+#include "platform/ui/control_name.h"
+#include "platform/ui/pump.h"
+#include "platform/ui/text.h"
+
+#include <array>
+#include <utility>
+
+#include <wx/artprov.h>
+#include <wx/sizer.h>
+
+namespace platform::ui {
+
+namespace {
+
+enum Image { kComputer, kFolder };
+
+constexpr const char* kHint = "Type the name of a computer and choose Show.";
+constexpr const char* kWaiting = "Waiting for an answer ...";
+
+/// The computer shown last, to begin with the next time.
+wxString g_computer; // NOLINT(cert-err58-cpp): the toolkit's strings need nothing set up
+
+// A computer or a folder that is opened again must keep its order: the toolkit's store sorts.
+class InOrderStore : public wxDataViewTreeStore {
+public:
+    [[nodiscard]] bool HasDefaultCompare() const override { return false; }
+};
+
+wxBitmapBundle Art(const wxArtID& id) {
+    return wxArtProvider::GetBitmapBundle(id, wxART_LIST);
+}
+
+std::optional<NetworkPath> ComputerIn(std::string text) {
+    if (!IsNetworkPath(text)) {
+        text.insert(0, "\\\\");
+    }
+    const auto path = ParseNetworkPath(text);
+    return path ? std::optional(NetworkPath{path->server, {}, {}}) : std::nullopt;
+}
+
+std::string Child(const NetworkPath& path, const std::string& name) {
+    return TextOf(path) + '\\' + name;
+}
+
+} // namespace
+
+NetworkFolderDialog::NetworkFolderDialog(wxWindow* owner, NetworkLister lister)
+    : wxDialog(owner, wxID_ANY, "Select a network computer or share.", wxDefaultPosition,
+               wxDefaultSize, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+      lister_(std::move(lister)) {
+    auto* const frame = new wxBoxSizer(wxVERTICAL);
+    const int gap = FromDIP(6);
+    frame->Add(ComputerRow(), wxSizerFlags().Expand().Border(wxALL, 2 * gap));
+
+    tvwNetwork = new wxDataViewTreeCtrl(this, wxID_ANY, wxDefaultPosition,
+                                        FromDIP(wxSize(420, 280)), wxDV_NO_HEADER | wxDV_SINGLE);
+    const wxObjectDataPtr<InOrderStore> store(new InOrderStore);
+    tvwNetwork->AssociateModel(store.get());
+    const std::array images = {Art("network-server"), Art(wxART_FOLDER)};
+    tvwNetwork->SetImages(wxVector<wxBitmapBundle>(images.begin(), images.end()));
+    NameControl(*tvwNetwork, "tvwNetwork", "Computer, shares and folders");
+    frame->Add(tvwNetwork, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT, 2 * gap));
+
+    lblStatus = new wxStaticText(this, wxID_ANY, kHint, wxDefaultPosition, wxDefaultSize,
+                                 wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+    NameControl(*lblStatus, "lblStatus");
+    frame->Add(lblStatus, wxSizerFlags().Expand().Border(wxALL, 2 * gap));
+
+    auto* const buttons = new wxStdDialogButtonSizer;
+    cmdOK = new wxButton(this, wxID_OK);
+    NameControl(*cmdOK, "cmdOK");
+    auto* const cmdCancel = new wxButton(this, wxID_CANCEL);
+    NameControl(*cmdCancel, "cmdCancel");
+    buttons->AddButton(cmdOK);
+    buttons->AddButton(cmdCancel);
+    buttons->Realize();
+    frame->Add(buttons, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, 2 * gap));
+    SetSizerAndFit(frame);
+    SetMinSize(GetSize());
+    CentreOnParent();
+
+    cmdOK->Disable();
+    tvwNetwork->Bind(wxEVT_DATAVIEW_ITEM_EXPANDING, &NetworkFolderDialog::OnExpanding, this);
+    tvwNetwork->Bind(wxEVT_DATAVIEW_ITEM_START_EDITING,
+                     [](wxDataViewEvent& event) { event.Veto(); });
+    tvwNetwork->Bind(wxEVT_DATAVIEW_SELECTION_CHANGED,
+                     [this](wxDataViewEvent&) { cmdOK->Enable(!Picked().empty()); });
+    Bind(wxEVT_BUTTON, [this](wxCommandEvent& event) {
+        abandoned_ = event.GetId() == wxID_CANCEL || event.GetId() == wxID_OK;
+        event.Skip();
+    });
+    Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
+        abandoned_ = true;
+        event.Skip();
+    });
+}
+
+wxSizer* NetworkFolderDialog::ComputerRow() {
+    auto* const label = new wxStaticText(this, wxID_ANY, "Com&puter:");
+    txtComputer = new wxTextCtrl(this, wxID_ANY, g_computer, wxDefaultPosition, wxDefaultSize,
+                                 wxTE_PROCESS_ENTER);
+    NameControl(*txtComputer, "txtComputer", "Computer:");
+    cmdShow = new wxButton(this, wxID_ANY, "&Show");
+    NameControl(*cmdShow, "cmdShow");
+    cmdShow->Enable(!g_computer.empty());
+    txtComputer->Bind(wxEVT_TEXT, [this](wxCommandEvent&) {
+        cmdShow->Enable(!busy_ && !txtComputer->IsEmpty());
+    });
+    txtComputer->Bind(wxEVT_TEXT_ENTER, [this](wxCommandEvent&) { ShowComputer(); });
+    cmdShow->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { ShowComputer(); });
+    auto* const row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(label, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(6)));
+    row->Add(txtComputer, wxSizerFlags(1).CentreVertical());
+    row->Add(cmdShow, wxSizerFlags().CentreVertical().Border(wxLEFT, FromDIP(6)));
+    return row;
+}
+
+std::string NetworkFolderDialog::Picked() const {
+    const auto found = nodes_.find(tvwNetwork->GetSelection().GetID());
+    return found == nodes_.end() ? std::string() : TextOf(found->second.path);
+}
+
+void NetworkFolderDialog::ShowComputer() {
+    const auto computer = ComputerIn(FromWx(txtComputer->GetValue().Trim().Trim(false)));
+    if (busy_ || !computer) {
+        return;
+    }
+    g_computer = ToWx(computer->server);
+    tvwNetwork->DeleteAllItems();
+    nodes_.clear();
+    cmdOK->Disable();
+    Add({}, *computer, computer->server);
+    const wxDataViewItem item(nodes_.begin()->first);
+    tvwNetwork->Select(item);
+    cmdOK->Enable();
+    Open(item);
+}
+
+void NetworkFolderDialog::Add(const wxDataViewItem& parent, const NetworkPath& path,
+                              const std::string& text) {
+    const int image = path.share.empty() ? kComputer : kFolder;
+    const wxDataViewItem item = tvwNetwork->AppendContainer(parent, ToWx(text), image, image);
+    // Whether there is anything inside is known only once somebody has asked.
+    tvwNetwork->AppendItem(item, "...");
+    nodes_[item.GetID()] = {path};
+}
+
+void NetworkFolderDialog::OnExpanding(wxDataViewEvent& event) {
+    const wxDataViewItem item = event.GetItem();
+    const auto found = nodes_.find(item.GetID());
+    if (found == nodes_.end() || found->second.opened) {
+        return;
+    }
+    event.Veto();
+    // Not here: the native tree is in the middle of the expansion.
+    if (!busy_) {
+        CallAfter([this, item] { Open(item); });
+    }
+}
+
+void NetworkFolderDialog::Open(const wxDataViewItem& item) {
+    const auto found = nodes_.find(item.GetID());
+    if (busy_ || found == nodes_.end()) {
+        return;
+    }
+    // What is disabled loses the focus.
+    const bool fromTree = tvwNetwork->HasFocus();
+    SetBusy(true);
+    const NetworkPath path = found->second.path;
+    const NetworkListing listing = lister_(path, [this] {
+        PumpEvents();
+        return !abandoned_;
+    });
+    SetBusy(false);
+    if (abandoned_) {
+        return;
+    }
+    Fill(item, listing);
+    if (fromTree) {
+        tvwNetwork->SetFocus();
+    }
+}
+
+void NetworkFolderDialog::Fill(const wxDataViewItem& item, const NetworkListing& listing) {
+    Node& node = nodes_[item.GetID()];
+    if (listing.error) {
+        lblStatus->SetLabel(ToWx(TextOf(node.path) + ": " + listing.error.description));
+        return;
+    }
+    node.opened = true;
+    tvwNetwork->DeleteChildren(item);
+    const NetworkPath path = node.path;
+    for (const auto& name : listing.names) {
+        if (const auto child = ParseNetworkPath(Child(path, name))) {
+            Add(item, *child, name);
+        }
+    }
+    lblStatus->SetLabel(listing.names.empty() ? "There is nothing to open here." : "");
+    tvwNetwork->Expand(item);
+}
+
+void NetworkFolderDialog::SetBusy(bool busy) {
+    busy_ = busy;
+    cmdShow->Enable(!busy && !txtComputer->IsEmpty());
+    tvwNetwork->Enable(!busy);
+    lblStatus->SetLabel(busy ? kWaiting : "");
+    if (busy) {
+        SetCursor(wxCursor(wxCURSOR_ARROWWAIT));
+    } else {
+        SetCursor(wxNullCursor);
+    }
+}
+
+} // namespace platform::ui
