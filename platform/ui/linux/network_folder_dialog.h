@@ -27,11 +27,11 @@ public:
     /// What is picked, `\\computer\share\folder`; "" for nothing.
     [[nodiscard]] std::string Picked() const;
 
-    wxTextCtrl* txtComputer;
-    wxButton* cmdShow;
-    wxDataViewTreeCtrl* tvwNetwork;
-    wxStaticText* lblStatus;
-    wxButton* cmdOK;
+    wxTextCtrl* txtComputer = nullptr;
+    wxButton* cmdShow = nullptr;
+    wxDataViewTreeCtrl* tvwNetwork = nullptr;
+    wxStaticText* lblStatus = nullptr;
+    wxButton* cmdOK = nullptr;
 
 private:
     wxSizer* ComputerRow();
