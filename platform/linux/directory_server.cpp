@@ -1,5 +1,7 @@
 #include "platform/linux/directory_server.h"
 
+#include "platform/linux/server_order.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -25,17 +27,8 @@ namespace platform {
 
 namespace {
 
-constexpr int kLdapPort = 389;
-
-struct Server {
-    int priority = 0;
-    double order = 0; ///< among those of one priority
-    std::string host;
-    int port = kLdapPort;
-};
-
 // One service record's data: priority, weight, port, each of 16 bits, and the host's name.
-bool ReadServer(const ns_msg& message, const ns_rr& record, std::mt19937& random, Server& server) {
+bool ReadServer(const ns_msg& message, const ns_rr& record, DirectoryServer& server) {
     constexpr int kFixedSize = 6;
     if (ns_rr_type(record) != ns_t_srv || ns_rr_rdlen(record) <= kFixedSize) {
         return false;
@@ -47,15 +40,13 @@ bool ReadServer(const ns_msg& message, const ns_rr& record, std::mt19937& random
         return false;
     }
     server.priority = static_cast<int>(ns_get16(data));
-    const double weight = ns_get16(data + 2);
-    // The share of first places that a weight asks for.
-    server.order = std::exponential_distribution<>(weight + 1e-3)(random);
+    server.weight = static_cast<int>(ns_get16(data + 2));
     server.port = static_cast<int>(ns_get16(data + 4));
     server.host = name.data();
     return !server.host.empty();
 }
 
-std::vector<Server> ServiceRecords(const std::string& name) {
+std::vector<DirectoryServer> ServiceRecords(const std::string& name) {
     struct __res_state state {};
     if (res_ninit(&state) != 0) {
         return {};
@@ -68,22 +59,22 @@ std::vector<Server> ServiceRecords(const std::string& name) {
     if (length < 0 || ns_initparse(answer.data(), std::min(length, NS_MAXMSG), &message) != 0) {
         return {};
     }
-    std::mt19937 random{std::random_device{}()};
-    std::vector<Server> servers;
+    std::vector<DirectoryServer> servers;
     for (int index = 0; index < ns_msg_count(message, ns_s_an); ++index) {
         ns_rr record{};
-        Server server;
+        DirectoryServer server;
         if (ns_parserr(&message, ns_s_an, index, &record) == 0 &&
-            ReadServer(message, record, random, server)) {
+            ReadServer(message, record, server)) {
             servers.push_back(server);
         }
     }
-    std::ranges::sort(servers, {}, [](const Server& s) { return std::pair(s.priority, s.order); });
+    std::mt19937 random{std::random_device{}()};
+    OrderServers(servers, random);
     return servers;
 }
 
 // "host:port". An address of several colons stands in brackets when a port follows it.
-bool SplitPort(const std::string& text, Server& server) {
+bool SplitPort(const std::string& text, DirectoryServer& server) {
     const std::size_t colon = text.rfind(':');
     const bool bracketed = text.starts_with('[') && text.rfind("]:") == colon - 1;
     if (colon == std::string::npos || (!bracketed && text.find(':') != colon)) {
@@ -106,28 +97,29 @@ bool IsAddress(const std::string& host) {
     return true;
 }
 
-std::vector<Server> ServersOf(const std::string& domain) {
-    Server named;
+std::vector<DirectoryServer> ServersOf(const std::string& domain) {
+    DirectoryServer named;
     if (SplitPort(domain, named)) {
         return {named};
     }
     // Nobody keeps records for an address, and a name server out of reach would be waited for.
     if (IsAddress(domain)) {
-        return {Server{.host = domain}};
+        return {DirectoryServer{.host = domain}};
     }
     for (const char* service : {"_ldap._tcp.dc._msdcs.", "_ldap._tcp."}) {
-        if (std::vector<Server> servers = ServiceRecords(service + domain); !servers.empty()) {
+        if (std::vector<DirectoryServer> servers = ServiceRecords(service + domain);
+            !servers.empty()) {
             return servers;
         }
     }
-    return {Server{.host = domain}};
+    return {DirectoryServer{.host = domain}};
 }
 
 // A line for each address, "address port host"; behind them, when there is none, "! reason".
 std::string Addresses(const std::string& domain) {
     std::ostringstream lines;
     std::string reason;
-    for (const Server& server : ServersOf(domain)) {
+    for (const DirectoryServer& server : ServersOf(domain)) {
         addrinfo hints{};
         hints.ai_socktype = SOCK_STREAM;
         addrinfo* found = nullptr;
