@@ -44,9 +44,11 @@ foreach(suite IN LISTS suites)
         # One screen, one focus, and nothing beside it that takes its time.
         string(APPEND properties " RESOURCE_LOCK display PROCESSORS 64")
     endif()
-    if(ENVIRONMENT)
-        string(APPEND properties " ENVIRONMENT [==[${ENVIRONMENT}]==]")
-    endif()
+    # What each test said is kept, so that the results of a whole run can be put together.
+    string(MAKE_C_IDENTIFIER "${name}" identifier)
+    set(environment ${ENVIRONMENT} "GTEST_OUTPUT=json:${FOLDER}/results/${identifier}.json"
+        "QUEUESHIFT_REPORT=${FOLDER}/results")
+    string(APPEND properties " ENVIRONMENT [==[${environment}]==]")
     set(command "")
     foreach(word IN LISTS LAUNCHER ITEMS "${BINARY}" "--gtest_filter=${suite}.*")
         string(APPEND command " [==[${word}]==]")
