@@ -179,13 +179,11 @@ int FileReplacement::Write(std::string_view bytes) {
     return 0;
 }
 
-int FileReplacement::Commit() {
-    int result = 0;
-    do {
-        result = fsync(file_.Get());
-    } while (result != 0 && errno == EINTR);
-    if (result != 0) {
-        return errno;
+int FileReplacement::Commit(Flush flush) {
+    while (flush == Flush::Yes && fsync(file_.Get()) != 0) {
+        if (errno != EINTR) {
+            return errno;
+        }
     }
     if (const int error = file_.Close(); error != 0) {
         return error;
@@ -196,7 +194,7 @@ int FileReplacement::Commit() {
     temporary_.clear();
     // The new name is in place whether or not the folder reaches the disk before a power cut.
     const FileHandle folder(open(FolderOf(target_).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder.IsOpen()) {
+    if (flush == Flush::Yes && folder.IsOpen()) {
         static_cast<void>(fsync(folder.Get()));
     }
     return 0;

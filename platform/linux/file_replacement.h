@@ -36,6 +36,8 @@ int OpenRegularFile(const std::string& path, FileHandle& file, struct stat& stat
 /// Returns 0 or errno (ELOOP).
 int FollowLinks(std::string& path);
 
+enum class Flush { Yes, No };
+
 /// A temporary file beside the target that becomes the target when it is committed, and goes away
 /// when it is not. The order of calls is Open, writes into Descriptor(), Commit.
 class FileReplacement {
@@ -55,8 +57,9 @@ public:
     /// Writes all bytes. Returns 0 or errno.
     int Write(std::string_view bytes);
 
-    /// Flushes to the disk and renames over the target. Returns 0 or errno.
-    int Commit();
+    /// Flushes to the disk, if wanted, and renames over the target. Returns 0 or errno. What was
+    /// not flushed may be lost in a power cut, and the old file with it.
+    int Commit(Flush flush = Flush::Yes);
 
 private:
     int CreateBeside(mode_t mode);

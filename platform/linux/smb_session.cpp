@@ -119,7 +119,7 @@ int Replace(const NetworkPath& folder, const std::string& name, const Fill& fill
 
 int Writer::Write(std::string_view bytes) {
     using Clock = std::chrono::steady_clock;
-    constexpr std::size_t kMost = std::size_t{16} << 20;
+    constexpr std::size_t kMost = std::size_t{64} << 20;
     const auto start = Clock::now();
     while (!bytes.empty()) {
         const ssize_t written = smbc_write(descriptor_, bytes.data(), bytes.size());

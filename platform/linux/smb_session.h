@@ -40,7 +40,7 @@ public:
 private:
     int descriptor_;
     const Progress& progress_;
-    std::size_t size_ = std::size_t{256} << 10;
+    std::size_t size_ = std::size_t{1} << 20;
 };
 
 /// The names of the entries of one of `types` (SMBC_DIR, SMBC_FILE_SHARE).

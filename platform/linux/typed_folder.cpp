@@ -103,7 +103,8 @@ int CopyFileTo(const std::string& sourcePath, const std::string& targetPath) {
     // A copy is as old as what it was made from; a file system that cannot say so does no harm.
     const std::array<timespec, 2> times = {from.st_atim, from.st_mtim};
     static_cast<void>(futimens(target.Descriptor(), times.data()));
-    return target.Commit();
+    // A copy can be made again from its source; waiting for the disk would double its time.
+    return target.Commit(Flush::No);
 }
 
 int WriteFile(const std::string& path, std::string_view bytes) {
