@@ -2,6 +2,7 @@
 
 #include "platform/ui/control_name.h"
 #include "platform/ui/one_line.h"
+#include "platform/ui/same_choice.h"
 
 namespace editors {
 
@@ -15,6 +16,8 @@ ActiveDirectoryPage::ActiveDirectoryPage(wxWindow* parent, int position)
     Body().Add(lblActiveDirectory, wxSizerFlags().Border(wxBOTTOM, FromDIP(kGap) / 2));
     cboDomainName = new wxComboBox(this, wxID_ANY);
     platform::ui::TakeOneLine(*cboDomainName);
+    // The domain picked once more asks for another look at its printers.
+    platform::ui::TellEveryChoice(*cboDomainName);
     NameControl(*cboDomainName, "cboDomainName", text);
     Body().Add(cboDomainName, wxSizerFlags().Expand());
 

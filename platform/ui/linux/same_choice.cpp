@@ -2,6 +2,7 @@
 
 #include <gtk/gtk.h>
 #include <wx/choice.h>
+#include <wx/combobox.h>
 
 #include <memory>
 #include <utility>
@@ -12,6 +13,7 @@ namespace {
 
 struct Choosing {
     wxChoice& choice;
+    wxEventType told;
     int before = wxNOT_FOUND; // what was selected when the menu opened
 };
 
@@ -28,7 +30,7 @@ void OnItem(GtkWidget* /*menu*/, const char* /*path*/, Choosing* choosing) {
     wxChoice& choice = choosing->choice;
     const int selected = choice.GetSelection();
     if (std::exchange(choosing->before, wxNOT_FOUND) == selected && selected != wxNOT_FOUND) {
-        wxCommandEvent event(wxEVT_CHOICE, choice.GetId());
+        wxCommandEvent event(choosing->told, choice.GetId());
         event.SetEventObject(&choice);
         event.SetInt(selected);
         event.SetString(choice.GetStringSelection());
@@ -36,9 +38,8 @@ void OnItem(GtkWidget* /*menu*/, const char* /*path*/, Choosing* choosing) {
     }
 }
 
-} // namespace
-
-void TellEveryChoice(wxChoice& choice) {
+// The free text is no list of its own: both drop-downs are the same widget.
+void Watch(wxChoice& choice, wxEventType told) {
     auto* const combo = GTK_COMBO_BOX(choice.GetHandle());
     AtkObject* const popup = gtk_combo_box_get_popup_accessible(combo);
     GtkWidget* const menu =
@@ -47,11 +48,21 @@ void TellEveryChoice(wxChoice& choice) {
     if (menu == nullptr || g_signal_lookup("menu-activate", G_OBJECT_TYPE(menu)) == 0) {
         return;
     }
-    auto choosing = std::make_unique<Choosing>(Choosing{choice});
+    auto choosing = std::make_unique<Choosing>(Choosing{choice, told});
     g_signal_connect(combo, "notify::popup-shown", G_CALLBACK(OnPopup), choosing.get());
     g_signal_connect(menu, "menu-activate", G_CALLBACK(OnItem), choosing.get());
     g_object_set_data_full(G_OBJECT(combo), "every-choice", choosing.release(),
                            [](gpointer held) { delete static_cast<Choosing*>(held); });
+}
+
+} // namespace
+
+void TellEveryChoice(wxChoice& choice) {
+    Watch(choice, wxEVT_CHOICE);
+}
+
+void TellEveryChoice(wxComboBox& combo) {
+    Watch(combo, wxEVT_COMBOBOX);
 }
 
 } // namespace platform::ui

@@ -2,7 +2,9 @@
 
 namespace platform::ui {
 
-// The native drop-down sends its own message.
+// The native drop-downs send a message of their own.
 void TellEveryChoice(wxChoice& /*choice*/) {}
+
+void TellEveryChoice(wxComboBox& /*combo*/) {}
 
 } // namespace platform::ui

@@ -1,9 +1,8 @@
 // The type of a maintenance page, chosen once more with real input.
+#include "tests/wizard/dropped.h"
 #include "tests/wizard/wizard_test.h"
 
 #include "wizard/pages.h"
-
-#include <gtk/gtk.h>
 
 namespace window_test {
 namespace {
@@ -15,16 +14,10 @@ protected:
         wxWindow* const choice = Find(window, name);
         FocusOn(choice);
         Press(WXK_SPACE);
-        WaitFor([choice] { return IsOpen(choice); }, "the items to be shown");
+        WaitFor([choice] { return IsDropped(*choice); }, "the items to be shown");
         Press(key);
-        WaitFor([choice] { return !IsOpen(choice); }, "the items to go");
+        WaitFor([choice] { return !IsDropped(*choice); }, "the items to go");
         Pump();
-    }
-
-    static bool IsOpen(const wxWindow* choice) {
-        gboolean shown = FALSE;
-        g_object_get(choice->GetHandle(), "popup-shown", &shown, nullptr);
-        return shown != FALSE;
     }
 };
 
@@ -60,7 +53,7 @@ TEST_F(SameType, AnotherTypeIsToldOnce) {
     wxWindow* const choice = Find(window, "cboPopulateType");
     FocusOn(choice);
     Press(WXK_SPACE);
-    WaitFor([choice] { return IsOpen(choice); }, "the items to be shown");
+    WaitFor([choice] { return IsDropped(*choice); }, "the items to be shown");
     Press(WXK_UP);
     Press(WXK_RETURN);
     WaitFor([this] { return TextIn(window, "cboPopulateType") == "Local"; }, "the other type");
