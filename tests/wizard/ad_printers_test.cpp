@@ -1,5 +1,6 @@
 // Filling a picker from the directory: the steps, the boxes, the bar, and queries in one another.
 #include "directory/ad_printers.h"
+#include "tests/support/message_log.h"
 #include "tests/wizard/scripted_directory.h"
 #include "tests/wizard/wizard_test.h"
 
@@ -162,6 +163,26 @@ TEST_F(ADPrinters, AnyLaterFailureIsTheQueryErrorAfterTheCount) {
             << step;
         EXPECT_FALSE(bar->IsShown()) << step;
     }
+}
+
+// A real box shows CR LF and LF alike, and so do the tests that look at one.
+TEST_F(ADPrinters, TheErrorsAreToldInTheseBytes) {
+    play.failures["Bind"] = {-2147016646, "Der Server ist nicht funktionst\u00FCchtig."};
+    DirectoryPlay later;
+    later.failures["Execute"] = {4, "Size limit exceeded"};
+    plays.push_back(&later);
+    const test::MessageLog log;
+    Fill();
+    Fill();
+    ASSERT_EQ(log.Messages().size(), 3U);
+    EXPECT_EQ(log.Messages()[0].text,
+              "Error accessing Active Directory. Please check your domain name and network "
+              "connection.\r\n\r\nError Number: -2147016646\r\nError Descritpion: "
+              "Der Server ist nicht funktionst\u00FCchtig.");
+    EXPECT_EQ(log.Messages()[1].text, "0");
+    EXPECT_EQ(log.Messages()[2].text,
+              "Error querying Active Directory. Please check your domain name and network "
+              "connection.\r\n\r\nError Number: 4\r\nError Descritpion: Size limit exceeded");
 }
 
 TEST_F(ADPrinters, AnErrorAmongTheRecordsIsPassedOver) {

@@ -29,6 +29,7 @@ struct PickerRow {
     Texts buttons;
     const char* refresh;
     const char* select;
+    const char* progress;
     const char* server;
     const char* printer;
     const char* type;
@@ -41,6 +42,15 @@ void PrintTo(const PickerRow& row, std::ostream* out) {
 
 class Pickers : public WizardTest, public testing::WithParamInterface<PickerRow> {
 protected:
+    void ExpectSwitched(bool on) {
+        EXPECT_EQ(IsEnabled(window, row.combo), on);
+        EXPECT_EQ(ColourOf(window, row.combo),
+                  on ? ColourOf(window, row.list) : ColourText(window->GetBackgroundColour()));
+        for (const std::string& button : row.buttons) {
+            EXPECT_EQ(IsEnabled(window, button), on) << button;
+        }
+    }
+
     [[nodiscard]] bool& Flag() {
         return row.page == 17 ? window->m_bolDomainChangedPopulate
                               : window->m_bolDomainChangedPrune;
@@ -62,6 +72,7 @@ INSTANTIATE_TEST_SUITE_P(Pages, Pickers,
                                                    {"cmdAdPopulateSelect", "cmdAdPopulateRefresh"},
                                                    "cmdAdPopulateRefresh",
                                                    "cmdAdPopulateSelect",
+                                                   "prbAdPopulateProgress",
                                                    "txtPopulateServerName",
                                                    "txtPopulatePrinterName",
                                                    "cboPopulateType",
@@ -75,6 +86,7 @@ INSTANTIATE_TEST_SUITE_P(Pages, Pickers,
                                                     "chkADPruneAll"},
                                                    "cmdAdPruneRefresh",
                                                    "cmdPruneADSelect",
+                                                   "prbADPrune",
                                                    "txtPruneServerName",
                                                    "txtPrunePrinterName",
                                                    "cboPruneType",
@@ -86,14 +98,32 @@ TEST_P(Pickers, AreOnInAnActiveDirectoryDocumentOnly) {
     for (const DocumentType type : {kManual, kActiveDirectory, kManual}) {
         Become(type);
         Prepare();
-        const bool on = type == kActiveDirectory;
-        EXPECT_EQ(IsEnabled(window, row.combo), on);
-        EXPECT_EQ(ColourOf(window, row.combo),
-                  on ? ColourOf(window, row.list) : ColourText(window->GetBackgroundColour()));
-        for (const std::string& button : row.buttons) {
-            EXPECT_EQ(IsEnabled(window, button), on) << button;
-        }
+        ExpectSwitched(type == kActiveDirectory);
     }
+}
+
+// The question stands in front of a page that is ready, and decides nothing before it is answered.
+TEST_P(Pickers, AreOnWhileTheQuestionIsAsked) {
+    Start(kManual);
+    Prepare();
+    ExpectSwitched(false);
+    PutItems(window, row.combo, {"SRV >> HP"});
+    Become(kActiveDirectory);
+    Enter(window, "cboDomainName", "corp.example");
+    ModalScript dialogs;
+    dialogs.ExpectDialog<wxMessageDialog>([this](wxMessageDialog& box) {
+        EXPECT_EQ(box.GetCaption().utf8_string(), kRefreshQuestion.caption);
+        EXPECT_EQ(CurrentPage(), row.page);
+        ExpectSwitched(true);
+        EXPECT_TRUE(Flag());
+        EXPECT_EQ(ItemsIn(window, row.combo), Texts{"SRV >> HP"});
+        EXPECT_FALSE(Find(window, row.progress)->IsShown());
+        return static_cast<int>(wxID_NO);
+    });
+    Prepare();
+    EXPECT_TRUE(dialogs.Done());
+    EXPECT_FALSE(Flag());
+    ExpectSwitched(true);
 }
 
 TEST_P(Pickers, AskOnceAfterAChangeOfTheDomain) {
