@@ -1,6 +1,7 @@
 #include "editors/maintenance_pages.h"
 
 #include "document/item_text.h"
+#include "editors/queue_list.h"
 #include "platform/ui/control_name.h"
 #include "platform/ui/one_line.h"
 #include "platform/ui/same_choice.h"
@@ -94,7 +95,7 @@ Picker MakePicker(wxWindow* parent, wxSizer& body, const std::array<const char*,
                   int gap) {
     Picker picker{};
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
-    picker.combo = new wxOwnerDrawnComboBox(parent, wxID_ANY);
+    picker.combo = new QueueList(parent);
     platform::ui::TakeOneLine(*picker.combo);
     NameControl(*picker.combo, names[0], "Active Directory Printers:");
     picker.select = new wxButton(parent, wxID_ANY, "Se&lect");
