@@ -86,7 +86,9 @@ void frmWizard::ssaQueueshift_ToolClick(std::string_view tool) {
     } else if (tool == "ID_BTN_CONTENTS") {
         modWizard::ShowHelpContents();
     } else if (tool == "ID_BTN_ABOUT") {
-        frmAbout(this).ShowModal();
+        frmAbout about(this);
+        about.SetIcons(GetIcons());
+        about.ShowModal();
     } else if (const int page = modWizard::PageOfTool(tool, UsesActiveDirectory()); page >= 0) {
         ShowPage(page);
         Prepare(modWizard::Pages()[static_cast<std::size_t>(page)].shown);

@@ -303,7 +303,14 @@ TEST_F(Commands, TheAddingFlagsSurviveNew) {
 TEST_F(Commands, AboutShowsTheAboutBox) {
     Start(kManual);
     ModalScript dialogs;
-    dialogs.ExpectDialog<frmAbout>([](frmAbout&) { return static_cast<int>(wxID_OK); });
+    dialogs.ExpectLive<frmAbout>([this](frmAbout& box) {
+        // In the caption as well, where the system shows one there.
+        EXPECT_EQ(box.GetIcons().GetIconCount(), window->GetIcons().GetIconCount());
+        EXPECT_GT(box.GetIcons().GetIconCount(), 0U);
+        Screenshot("about", &box);
+        box.cmdOK_Click();
+    });
+    Show();
     ChooseEntry(2, "About Queueshift Deployment Toolkit ...");
     EXPECT_TRUE(dialogs.Done());
 }
