@@ -14,7 +14,7 @@ class Desk:
     def __init__(self, program, folder, camera, say):
         self.camera = camera
         self.say = say
-        with open(folder / "program.log", "ab") as log:
+        with open(camera.folder / "program.log", "ab") as log:
             self.process = subprocess.Popen([program], cwd=folder, stderr=log)
         try:
             self.application = until("the program is on the accessibility bus", self._connected)

@@ -54,3 +54,11 @@ def place(window):
     values = {name.strip(): value.strip() for name, value in pairs}
     names = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
     return tuple(int(values[name]) for name in names)
+
+
+def process_of(window):
+    """The number of the process that a window belongs to."""
+    found = subprocess.run(
+        ["xprop", "-id", window, "_NET_WM_PID"], capture_output=True, text=True, check=True
+    )
+    return int(found.stdout.rpartition("=")[2])

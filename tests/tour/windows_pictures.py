@@ -1,97 +1,55 @@
 #!/usr/bin/python3
-"""Goes through the Windows program's pages by keyboard and takes a picture of each.
+"""Shows every page and dialog of the Windows program and takes a picture of each.
 
-  windows_pictures.py RUN-WINE PROGRAM-FOLDER RESULT-FOLDER
+  windows_pictures.py RUN-WINE BUILD-FOLDER DRIVE RESULT-FOLDER
 
-Run by windows-pictures. Wine shows no controls to an accessibility bus; what is looked at here is
-that each key changes the window's title or what it shows.
+Run by windows-pictures. BUILD-FOLDER holds the program and its help book, DRIVE is what Wine calls
+C:. The pictures bear the names that linux_pictures.py gives them, too.
 """
 
 import pathlib
-import subprocess
+import shutil
 import sys
 import time
 
 import hand
 import pages
+import progress
 import samples
 from camera import Camera
-from waiting import Failure, require, until
+from waiting import Failure, require
+from wine_desk import WineDesk
 
-# Seconds without a change after which a window counts as painted; Wine paints in pieces.
-REST = 0.4
-QUESTION = "Refresh Printers"
-CAPTION = "Queueshift - Deployment Toolkit [{}]"
-
-
-class Wine:
-    """One start of the program."""
-
-    def __init__(self, run_wine, program, camera):
-        self.camera = camera
-        self.title = CAPTION.format("UNTITLED")
-        self.process = subprocess.Popen([run_wine, str(program)], cwd=str(program.parent))
-
-    def window(self, title):
-        """Waits for the window of this title to take the keys."""
-
-        def active():
-            require(self.process.poll() is None, "the program has ended unexpectedly")
-            return hand.window_title() == title
-
-        until(f"the window '{title}' comes up", active, limit=60)
-
-    def box(self):
-        found = hand.place(hand.active_window())
-        require(found is not None, "no window takes the keys")
-        return found
-
-    def changed_by(self, *keys):
-        """Presses keys and waits until the active window shows something else."""
-        box = self.box()
-        before = self.camera.still([box], REST)
-        hand.key(*keys)
-        until(
-            f"{' '.join(keys)} changes what the window shows",
-            lambda: self.camera.still([box], REST).get_pixels() != before.get_pixels(),
-        )
-
-    def decline(self, picture):
-        """Answers No to the question that some pages ask when they come up."""
-        if hand.window_title() == QUESTION:
-            self.picture(picture)
-            hand.key("Tab", "space")
-            self.window(self.title)
-
-    def picture(self, name):
-        self.camera.take(name, [self.box()], REST)
-
-    def open(self, path):
-        """Opens a document through the open dialog."""
-        hand.key("ctrl+o")
-        self.window("Open INI File ...")
-        hand.key("Home", "shift+End")
-        hand.write("Z:" + str(path).replace("/", "\\"))
-        hand.key("Return")
-        self.title = CAPTION.format(path.name)
-        self.window(self.title)
-
-    def stop(self):
-        if self.process.poll() is None:
-            self.process.terminate()
-            self.process.wait()
+PROGRAM = "C:\\Program Files\\Queueshift"
+DOCUMENTS = "C:\\Documents"
+DEPLOYMENT = "C:\\Deploy"
 
 
-def walk(wine, order, label):
-    """All pages of the open document, by Next."""
+def prepare(build, drive):
+    """The program where it is installed, documents, and a folder to deploy into."""
+    program, documents = drive / "Program Files/Queueshift", drive / "Documents"
+    for folder in (program, documents, drive / "Deploy"):
+        folder.mkdir(parents=True)
+    for name in ("QueueshiftToolkit.exe", "Queueshift.hlp"):
+        shutil.copy(build / name, program)
+    samples.write_all(documents, DEPLOYMENT)
+    samples.write_program_files(program)
+    return documents
+
+
+def walk(wine, order, label, on_page=None):
+    """All pages of the open document, by Next; `on_page` has more to do on some of them."""
     for number, (_, title, _) in enumerate(order):
+        slug = pages.slug(title)
         if number:
             wine.changed_by("alt+n")
-            wine.decline(f"refresh-question-{pages.slug(title)}")
-        wine.picture(f"{label}-{pages.slug(title)}")
+            wine.decline(f"refresh-question-{slug}")
+        wine.picture(f"{label}-{slug}")
+        if on_page and slug in on_page:
+            on_page[slug]()
 
 
-def dialogs(wine):
+def new_document(wine):
     wine.window("New INI")
     wine.picture("new-document")
     wine.changed_by("ctrl+Tab")
@@ -102,41 +60,93 @@ def dialogs(wine):
     wine.window(wine.title)
 
 
-def last_dialogs(wine):
-    hand.key("ctrl+n")
-    wine.window("New INI")
+def dialogs_of_pages(wine):
+    """What comes up on a page, by its title; the focus is on its first control, or on Next."""
+
+    def save_error():
+        hand.key("alt+s")
+        wine.answer("Save Error", "save-error", "Return")
+
+    def browse(box):
+        """With the focus in a folder's field: its folder is missed, then Browse is pressed."""
+        hand.key("Tab")
+        wine.answer("Folder not found.", box, "Return")
+        hand.key("space")
+
+    def folder_picker():
+        wine.changed_by("alt+v", "e")
+        wine.changed_by("alt+v", "f")
+        wine.changed_by("Tab")
+        browse("output-folder-not-found")
+        wine.close_picker("folder-picker")
+
+    def network_folder_picker():
+        wine.changed_by("alt+v", "f")
+        wine.changed_by("alt+v", "d")
+        browse("folder-not-found")
+        wine.close_picker("network-folder-picker")
+
+    def help_book():
+        hand.key("F1")
+        wine.window("Queueshift Help")
+        wine.picture("help")
+        hand.key("Escape")
+        wine.window(wine.title)
+
+    return {
+        "manual-configuration-servers": save_error,
+        "notification-file-output": folder_picker,
+        "deployment": network_folder_picker,
+        "maintenance-prune": help_book,
+    }
+
+
+def deploy(wine):
+    """Pilot.ini is open. The progress window stands in its own process's way until it was seen."""
+    wine.changed_by("alt+v", "d")
+    process = hand.process_of(hand.active_window())
+    title = progress.catch(process, wine.camera, lambda: hand.key("alt+d"), "progress")
+    require(title, "the progress window was too quick for a picture")
+    wine.answer("Sucess", "deploy-success", "Return")
+
+
+def leave(wine):
+    hand.key("alt+f", "a")
+    wine.window("Save INI file As ...")
+    wine.picture("save-dialog")
     hand.key("Escape")
     wine.window(wine.title)
-    hand.key("alt+h")
-    hand.key("a")
+    hand.key("alt+h", "a")
     wine.window("About Queueshift Deployment Toolkit")
     wine.picture("about")
     hand.key("Escape")
     wine.window(wine.title)
+    wine.changed_by("alt+v", "g")
+    wine.changed_by("space")
+    hand.key("alt+f", "x")
+    wine.answer("Save?", "save-question-exit", "Escape")
 
 
-def tour(wine, results):
-    dialogs(wine)
-    walk(wine, pages.MANUAL, "new-manual")
-    sites = results / "Sites.ini"
-    samples.write(sites, samples.manual())
-    wine.open(sites)
-    walk(wine, pages.MANUAL, "manual")
-    directory = results / "Directory.ini"
-    samples.write(directory, samples.directory())
-    wine.open(directory)
+def take(wine):
+    new_document(wine)
+    wine.open(f"{DOCUMENTS}\\Sites.ini", "open-sites")
+    walk(wine, pages.MANUAL, "manual", dialogs_of_pages(wine))
+    wine.open(f"{DOCUMENTS}\\Directory.ini", "open-directory")
     walk(wine, pages.ACTIVE_DIRECTORY, "directory")
-    last_dialogs(wine)
+    wine.open(f"{DOCUMENTS}\\Pilot.ini", "open-pilot")
+    deploy(wine)
+    leave(wine)
 
 
 def main(arguments):
-    run_wine, program, results = arguments
-    results = pathlib.Path(results)
+    run_wine = arguments[0]
+    build, drive, results = (pathlib.Path(argument) for argument in arguments[1:])
     began = time.monotonic()
+    documents = prepare(build, drive)
     camera = Camera(results)
-    wine = Wine(run_wine, pathlib.Path(program) / "QueueshiftToolkit.exe", camera)
+    wine = WineDesk(run_wine, f"{PROGRAM}\\QueueshiftToolkit.exe", documents, camera)
     try:
-        tour(wine, results)
+        take(wine)
     except Failure as problem:
         print(f"windows-pictures: {problem}; see {camera.screen('failed')}", file=sys.stderr)
         return 1
