@@ -58,3 +58,19 @@ install_packages() {
     [ -z "$own_policy" ] || as_root rm -f "$policy"
     [ "$status" -eq 0 ] || fail "could not install: ${missing[*]}"
 }
+
+# draw_icon SIZE FILE: the program's icon as a picture; below 32 pixels from the drawing with fewer
+# parts. Needs librsvg2-bin.
+draw_icon() {
+    local drawing=queueshift
+    [ "$1" -ge 32 ] || drawing=queueshift-small
+    rsvg-convert -w "$1" -h "$1" -o "$2" "$project_root/resources/icons/$drawing.svg"
+}
+
+# The version of the product, from its one place.
+project_version() {
+    local version
+    version=$(sed -n 's/^ *VERSION \([0-9.]*\)$/\1/p' "$project_root/CMakeLists.txt")
+    [ -n "$version" ] || fail "no version in CMakeLists.txt"
+    printf '%s\n' "$version"
+}
