@@ -15,8 +15,11 @@ TITLE_BAR = 30
 
 
 class Camera:
-    def __init__(self, folder):
+    """`around` is what a picture shows beyond its boxes: left, top, right, bottom."""
+
+    def __init__(self, folder, around=(EDGE, TITLE_BAR, EDGE, EDGE)):
         self.folder = folder
+        self.around = around
         self.taken = []
         self.root = Gdk.get_default_root_window()
 
@@ -46,10 +49,11 @@ class Camera:
         return last
 
     def _look(self, boxes):
-        left = max(min(box[0] for box in boxes) - EDGE, 0)
-        top = max(min(box[1] for box in boxes) - TITLE_BAR, 0)
-        right = min(max(box[0] + box[2] for box in boxes) + EDGE, self.root.get_width())
-        bottom = min(max(box[1] + box[3] for box in boxes) + EDGE, self.root.get_height())
+        before, above, behind, below = self.around
+        left = max(min(box[0] for box in boxes) - before, 0)
+        top = max(min(box[1] for box in boxes) - above, 0)
+        right = min(max(box[0] + box[2] for box in boxes) + behind, self.root.get_width())
+        bottom = min(max(box[1] + box[3] for box in boxes) + below, self.root.get_height())
         waiting.require(right > left and bottom > top, "there is nothing to take a picture of")
         return Gdk.pixbuf_get_from_window(self.root, left, top, right - left, bottom - top)
 

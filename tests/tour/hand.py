@@ -56,6 +56,18 @@ def place(window):
     return tuple(int(values[name]) for name in names)
 
 
+def framed(window):
+    """The place of a window with what the window manager has drawn around it."""
+    left, top, width, height = place(window)
+    found = subprocess.run(
+        ["xprop", "-id", window, "_NET_FRAME_EXTENTS"], capture_output=True, text=True, check=True
+    )
+    before, behind, above, below = (
+        int(number) for number in found.stdout.rpartition("=")[2].split(",")
+    )
+    return (left - before, top - above, width + before + behind, height + above + below)
+
+
 def process_of(window):
     """The number of the process that a window belongs to."""
     found = subprocess.run(

@@ -24,6 +24,7 @@ from wizard import Wizard
 DOCUMENTS = pathlib.Path("/srv/admin/Documents")
 DEPLOYMENT = pathlib.Path("/srv/deploy")
 HELP = "Queueshift Help"
+NOTHING_AROUND = (0, 0, 0, 0)
 
 
 def say(text):
@@ -141,7 +142,7 @@ def main(arguments):
     bus.prepare()
     samples.write_all(DOCUMENTS, DEPLOYMENT)
     samples.write_program_files(program)
-    camera = Camera(results)
+    camera = Camera(results, NOTHING_AROUND)
     pictures = Pictures(program, camera)
     try:
         pictures.take()

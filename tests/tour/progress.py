@@ -60,7 +60,7 @@ def catch(process, camera, act, name):
                 if title is None or place is None:
                     return None
                 if camera.painted(place):
-                    camera.take(name, [place], None)
+                    camera.take(name, [hand.framed(window)], None)
                     return title
             finally:
                 os.kill(process, signal.SIGCONT)

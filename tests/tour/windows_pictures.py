@@ -23,6 +23,7 @@ from wine_desk import WineDesk
 PROGRAM = "C:\\Program Files\\Queueshift"
 DOCUMENTS = "C:\\Documents"
 DEPLOYMENT = "C:\\Deploy"
+NOTHING_AROUND = (0, 0, 0, 0)
 
 
 def prepare(build, drive):
@@ -143,7 +144,7 @@ def main(arguments):
     build, drive, results = (pathlib.Path(argument) for argument in arguments[1:])
     began = time.monotonic()
     documents = prepare(build, drive)
-    camera = Camera(results)
+    camera = Camera(results, NOTHING_AROUND)
     wine = WineDesk(run_wine, f"{PROGRAM}\\QueueshiftToolkit.exe", documents, camera)
     try:
         take(wine)

@@ -60,7 +60,8 @@ class WineDesk:
         )
 
     def picture(self, name):
-        self.camera.take(name, [self.box()], REST)
+        self.box()
+        self.camera.take(name, [hand.framed(hand.active_window())], REST)
 
     def answer(self, title, picture, *keys):
         """Looks at the message box of this title, and closes it with these keys."""
