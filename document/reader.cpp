@@ -19,11 +19,12 @@ using platform::profile::Reader;
 /// it stand before the terminator and stay. A failed read leaves its mark and what it got.
 std::string ReadValue(const Reader& reader, std::string_view section, std::string_view key,
                       std::size_t bufferSize) {
-    const auto result = reader.Read(section, key, bufferSize);
+    auto result = reader.Read(section, key, bufferSize);
     if (result.error != 0) {
         g_Document.ReadFailed = true;
     }
-    return std::string(WithoutLeadingBlanks(result.value));
+    result.value.erase(0, result.value.size() - WithoutLeadingBlanks(result.value).size());
+    return std::move(result.value);
 }
 
 template <class Value> Value ValueOrFailure(const std::optional<Value>& value) {
@@ -60,7 +61,7 @@ void FillColumn(const Key& key, const Column<Element>& column,
             throw DamagedList("[" + std::string(key.section) + "] " + std::string(key.name) +
                               " has more entries than its list");
         }
-        FieldOf(column, list[i]) = pieces[i].empty() ? column.errorText : pieces[i];
+        FieldOf(column, list[i]) = std::string(pieces[i].empty() ? column.errorText : pieces[i]);
     }
 }
 

@@ -90,6 +90,8 @@ std::vector<std::string_view> ListPieces(std::string_view text) {
     if (text.empty()) {
         return pieces;
     }
+    constexpr std::size_t kUsualLength = 12;
+    pieces.reserve(text.size() / kUsualLength + 1);
     for (;;) {
         const auto comma = text.find(',');
         pieces.push_back(WithoutBlanks(text.substr(0, comma)));

@@ -6,6 +6,8 @@
 #include <iconv.h>
 
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <map>
 #include <memory>
 #include <optional>
@@ -160,6 +162,20 @@ std::string CodePage::Decode(std::string_view ansi) const {
     return utf8;
 }
 
+/// Most settings are, and every page of Windows begins with it.
+bool IsAscii(std::string_view text) {
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    std::uint64_t seen = 0;
+    for (std::uint64_t eight = 0; text.size() >= sizeof eight; text.remove_prefix(sizeof eight)) {
+        std::memcpy(&eight, text.data(), sizeof eight);
+        seen |= eight;
+    }
+    for (const char character : text) {
+        seen |= static_cast<unsigned char>(character);
+    }
+    return (seen & kHighBits) == 0;
+}
+
 const CodePage& CurrentPage() {
     static std::map<int, CodePage> pages;
     const int number = CodePageOfLocale(LocaleOfTexts());
@@ -169,11 +185,11 @@ const CodePage& CurrentPage() {
 } // namespace
 
 std::string AnsiFromUtf8(std::string_view utf8) {
-    return CurrentPage().Encode(utf8);
+    return IsAscii(utf8) ? std::string(utf8) : CurrentPage().Encode(utf8);
 }
 
 std::string Utf8FromAnsi(std::string_view ansi) {
-    return CurrentPage().Decode(ansi);
+    return IsAscii(ansi) ? std::string(ansi) : CurrentPage().Decode(ansi);
 }
 
 } // namespace platform

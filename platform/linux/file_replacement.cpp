@@ -30,6 +30,9 @@ std::string FolderOf(const std::string& path) {
 /// Access lists and labels are kept where the file system has them; a file without them is as
 /// good as the user may make it.
 void CopyExtendedAttributes(const std::string& from, int to) {
+    if (listxattr(from.c_str(), nullptr, 0) <= 0) {
+        return;
+    }
     std::vector<char> names(64 * 1024);
     const ssize_t length = listxattr(from.c_str(), names.data(), names.size());
     std::vector<char> value(64 * 1024);

@@ -7,6 +7,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <variant>
@@ -22,7 +23,7 @@ constexpr std::string_view kLittleEndianMark = "\xFF\xFE";
 constexpr std::string_view kBigEndianMark = "\xFE\xFF";
 
 /// No settings come near this; a larger file is some mistake and would only fill the memory.
-constexpr off_t kLargestFile = 16 * 1024 * 1024;
+constexpr std::size_t kLargestFile = 16 * 1024 * 1024;
 
 /// Reads the whole file. Returns 0 or errno.
 int Load(const std::string& path, std::string& bytes) {
@@ -31,20 +32,22 @@ int Load(const std::string& path, std::string& bytes) {
     if (const int error = OpenRegularFile(path, file, status); error != 0) {
         return error;
     }
-    std::string buffer(64 * 1024, '\0');
-    for (;;) {
-        const ssize_t length = read(file.Get(), buffer.data(), buffer.size());
-        if (length == 0) {
-            return 0;
-        }
-        if (length > 0) {
-            bytes.append(buffer, 0, static_cast<std::size_t>(length));
-        } else if (errno != EINTR) {
-            return errno;
-        }
-        if (bytes.size() > kLargestFile) {
+    // A file that grows meanwhile, or one whose size the system does not tell, takes more rounds.
+    constexpr std::size_t kMore = 16 * 1024;
+    for (std::size_t had = 0;;) {
+        if (had > kLargestFile) {
             return EFBIG;
         }
+        bytes.resize(std::max<std::size_t>(static_cast<std::size_t>(status.st_size), had) + kMore);
+        const ssize_t length = read(file.Get(), bytes.data() + had, bytes.size() - had);
+        if (length < 0 && errno != EINTR) {
+            return errno;
+        }
+        if (length == 0) {
+            bytes.resize(had);
+            return 0;
+        }
+        had += length < 0 ? 0 : static_cast<std::size_t>(length);
     }
 }
 
@@ -119,44 +122,56 @@ public:
         }
     }
 
-    /// The value in the ANSI code page, "" when there is none.
-    [[nodiscard]] std::string Find(std::string_view section, std::string_view key) const {
+    /// At most `most` bytes of the value in the ANSI code page, as UTF-8; "" when there is none.
+    [[nodiscard]] std::string Find(std::string_view section, std::string_view key,
+                                   std::size_t most) const {
         if (const auto* wide = std::get_if<Wide>(&text_)) {
             const auto value = wide->Find(Utf16FromUtf8(section), Utf16FromUtf8(key));
-            return value ? AnsiFromUtf8(Utf8FromUtf16(*value)) : std::string();
+            return value ? Cut(AnsiFromUtf8(Utf8FromUtf16(*value)), most) : std::string();
         }
         const auto value = std::get<Narrow>(text_).Find(Encoded(section), Encoded(key));
         if (!value) {
             return {};
         }
-        return encoding_ == Encoding::Utf8 ? AnsiFromUtf8(*value) : std::string(*value);
+        return encoding_ == Encoding::Utf8 ? Cut(AnsiFromUtf8(*value), most) : Cut(*value, most);
     }
 
     void Set(std::string_view section, std::string_view key, std::string_view value) {
         // What the code page cannot hold is lost in every encoding: the real functions take and
         // give ANSI texts only.
-        const std::string held = Utf8FromAnsi(AnsiFromUtf8(value));
+        const std::string ansi = AnsiFromUtf8(value);
         if (auto* wide = std::get_if<Wide>(&text_)) {
-            wide->Set(Utf16FromUtf8(section), Utf16FromUtf8(key), Utf16FromUtf8(held));
+            wide->Set(Utf16FromUtf8(section), Utf16FromUtf8(key),
+                      Utf16FromUtf8(Utf8FromAnsi(ansi)));
         } else {
-            std::get<Narrow>(text_).Set(Encoded(section), Encoded(key), Encoded(held));
+            std::get<Narrow>(text_).Set(Encoded(section), Encoded(key),
+                                        encoding_ == Encoding::Utf8 ? Utf8FromAnsi(ansi) : ansi);
         }
     }
 
-    [[nodiscard]] std::string Bytes() const {
+    /// The whole file; `room` holds what is not there as it stands.
+    [[nodiscard]] std::string_view Bytes(std::string& room) const {
         if (const auto* wide = std::get_if<Wide>(&text_)) {
             const bool bigEndian = encoding_ == Encoding::Utf16BigEndian;
-            return std::string(bigEndian ? kBigEndianMark : kLittleEndianMark) +
+            room = std::string(bigEndian ? kBigEndianMark : kLittleEndianMark) +
                    BytesFromUnits(wide->Whole(), bigEndian);
+            return room;
         }
         const auto& text = std::get<Narrow>(text_).Whole();
-        return encoding_ == Encoding::Utf8 ? std::string(kUtf8Mark) + text : text;
+        if (encoding_ == Encoding::Ansi) {
+            return text;
+        }
+        room = std::string(kUtf8Mark) + text;
+        return room;
     }
 
 private:
     using Narrow = ProfileText<char>;
     using Wide = ProfileText<char16_t>;
 
+    static std::string Cut(std::string_view ansi, std::size_t most) {
+        return Utf8FromAnsi(ansi.substr(0, most));
+    }
     [[nodiscard]] std::string Encoded(std::string_view utf8) const {
         return encoding_ == Encoding::Utf8 ? std::string(utf8) : AnsiFromUtf8(utf8);
     }
@@ -183,11 +198,7 @@ Reader::Reader(const std::string& path) : state_(std::make_unique<State>()) {
 Reader::~Reader() = default;
 
 ReadResult Reader::Read(std::string_view section, std::string_view key, std::size_t size) const {
-    std::string value = state_->file.Find(section, key);
-    if (value.size() >= size) {
-        value.resize(size == 0 ? 0 : size - 1);
-    }
-    return {Utf8FromAnsi(value), state_->error};
+    return {state_->file.Find(section, key, size == 0 ? 0 : size - 1), state_->error};
 }
 
 struct Update::State {
@@ -229,7 +240,8 @@ int Update::Commit() {
     FileReplacement replacement;
     int error = replacement.Open(state_->path);
     if (error == 0) {
-        error = replacement.Write(state_->file.Bytes());
+        std::string room;
+        error = replacement.Write(state_->file.Bytes(room));
     }
     if (error == 0) {
         error = replacement.Commit();

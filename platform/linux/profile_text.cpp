@@ -1,6 +1,8 @@
 #include "platform/linux/profile_text.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <utility>
 
 namespace platform::profile {
@@ -9,6 +11,30 @@ namespace {
 
 template <class Char> constexpr bool IsLineEnd(Char unit) {
     return unit == '\r' || unit == '\n';
+}
+
+/// Not zero when one of the eight bytes is `wanted`.
+constexpr std::uint64_t BytesThatAre(std::uint64_t eight, char wanted) {
+    constexpr std::uint64_t kOnes = 0x0101010101010101;
+    const std::uint64_t differences = eight ^ (kOnes * static_cast<unsigned char>(wanted));
+    return (differences - kOnes) & ~differences & (kOnes << 7);
+}
+
+/// Where the line that goes on at this place ends. A list is one line of thousands of characters,
+/// so eight of them are looked at together.
+template <class Char> std::size_t LineEndFrom(std::basic_string_view<Char> text, std::size_t at) {
+    if constexpr (sizeof(Char) == 1) {
+        for (std::uint64_t eight = 0; at + sizeof eight <= text.size(); at += sizeof eight) {
+            std::memcpy(&eight, text.data() + at, sizeof eight);
+            if ((BytesThatAre(eight, '\r') | BytesThatAre(eight, '\n')) != 0) {
+                break;
+            }
+        }
+    }
+    while (at < text.size() && !IsLineEnd(text[at])) {
+        ++at;
+    }
+    return at;
 }
 
 /// What the real functions drop around names and values: blanks and tabs, and with them the other
@@ -54,8 +80,11 @@ bool SameName(std::basic_string_view<Char> one, std::basic_string_view<Char> oth
 template <class Char>
 std::optional<std::basic_string_view<Char>> SectionName(std::basic_string_view<Char> line) {
     line = Trimmed(line);
+    if (line.empty() || line.front() != '[') {
+        return std::nullopt;
+    }
     const auto close = line.rfind(Char{']'});
-    if (line.empty() || line.front() != '[' || close == line.npos) {
+    if (close == line.npos) {
         return std::nullopt;
     }
     return UpToNul(Trimmed(line.substr(1, close - 1)));
@@ -77,21 +106,26 @@ template <class Char> ProfileText<Char>::ProfileText(Text text) : text_(std::mov
 }
 
 template <class Char> auto ProfileText<Char>::LineAt(std::size_t at) const -> View {
-    constexpr Char kEnds[] = {'\r', '\n', 0};
-    const auto end = std::min(text_.find_first_of(kEnds, at), text_.size());
+    const std::size_t end = LineEndFrom(View(text_), at);
     return View(text_).substr(at, end - at);
 }
 
+template <class Char> auto ProfileText<Char>::TextOf(const Line& line) const -> View {
+    return View(text_).substr(line.at, line.length);
+}
+
 template <class Char> void ProfileText<Char>::IndexSections() {
-    sections_ = {{0, 0, text_.size()}};
+    sections_.clear();
+    sections_.push_back({});
     firstOfName_.clear();
     firstOfName_.emplace(Text(), 0);
     for (std::size_t at = 0; at < text_.size();) {
         const View line = LineAt(at);
         if (const auto name = SectionName(line)) {
-            sections_.back().end = at;
             firstOfName_.try_emplace(LowerCase(*name), sections_.size());
-            sections_.push_back({at, at + line.size(), text_.size()});
+            sections_.push_back({at + line.size(), {}});
+        } else if (!line.empty()) {
+            sections_.back().lines.push_back({at, line.size()});
         }
         at += line.size() + 1;
     }
@@ -100,15 +134,14 @@ template <class Char> void ProfileText<Char>::IndexSections() {
 template <class Char>
 auto ProfileText<Char>::FindKey(const Section& section, View key) const
     -> std::optional<Assignment> {
-    for (std::size_t at = section.body; at < section.end;) {
-        const View line = LineAt(at);
+    for (const Line& place : section.lines) {
+        const View line = TextOf(place);
         const auto equals = line.find(Char{'='});
         const bool blank = Trimmed(line).empty();
         if (!blank && SameName(UpToNul(Trimmed(line.substr(0, equals))), key)) {
             const auto name = std::min(equals, line.size());
-            return Assignment{at + name, line.size() - name};
+            return Assignment{place.at + name, line.size() - name};
         }
-        at += line.size() + 1;
     }
     return std::nullopt;
 }
@@ -131,15 +164,10 @@ auto ProfileText<Char>::Find(View section, View key) const -> std::optional<View
 /// Behind the last line of the section that holds anything: the blank lines that set it off from
 /// the next one stay where they are.
 template <class Char> std::size_t ProfileText<Char>::EndOfLastLine(const Section& section) const {
-    std::size_t place = section.body;
-    for (std::size_t at = section.body; at < section.end;) {
-        const View line = LineAt(at);
-        if (!Trimmed(line).empty()) {
-            place = at + line.size();
-        }
-        at += line.size() + 1;
-    }
-    return place;
+    const auto last =
+        std::ranges::find_if(section.lines.rbegin(), section.lines.rend(),
+                             [this](const Line& line) { return !Trimmed(TextOf(line)).empty(); });
+    return last == section.lines.rend() ? section.body : last->at + last->length;
 }
 
 /// Behind the line end at this place, CR LF after any number of CRs counting as one.
@@ -148,28 +176,32 @@ template <class Char> std::size_t ProfileText<Char>::BehindLineEnd(std::size_t a
     return end < text_.size() && text_[end] == '\n' ? end + 1 : at + 1;
 }
 
-template <class Char>
-void ProfileText<Char>::Replace(std::size_t section, std::size_t at, std::size_t length,
-                                const Text& by) {
-    text_.replace(at, length, by);
-    const auto moved = [&](std::size_t& place) { place = place - length + by.size(); };
-    moved(sections_[section].end);
-    for (std::size_t later = section + 1; later < sections_.size(); ++later) {
-        moved(sections_[later].begin);
-        moved(sections_[later].body);
-        moved(sections_[later].end);
+template <class Char> void ProfileText<Char>::ReplaceValue(const Assignment& old, const Text& by) {
+    text_.replace(old.at, old.length, by);
+    for (Section& section : sections_) {
+        const auto moved = [&](std::size_t& place) { place = place - old.length + by.size(); };
+        if (section.body > old.at) {
+            moved(section.body);
+        }
+        for (Line& line : section.lines) {
+            if (line.at > old.at) {
+                moved(line.at);
+            } else if (line.at + line.length >= old.at) {
+                moved(line.length);
+            }
+        }
     }
 }
 
-template <class Char> void ProfileText<Char>::AddKey(std::size_t section, const Text& line) {
+template <class Char> void ProfileText<Char>::AddKey(const Section& section, const Text& line) {
     const Text lineEnd = kLineEnd<Char>;
-    const std::size_t place = EndOfLastLine(sections_[section]);
+    const std::size_t place = EndOfLastLine(section);
     if (place == 0) {
-        Replace(section, 0, 0, line + lineEnd);
+        text_.insert(0, line + lineEnd);
     } else if (place == text_.size()) {
-        Replace(section, place, 0, lineEnd + line + lineEnd);
+        text_ += lineEnd + line + lineEnd;
     } else {
-        Replace(section, BehindLineEnd(place), 0, line + lineEnd);
+        text_.insert(BehindLineEnd(place), line + lineEnd);
     }
 }
 
@@ -177,36 +209,35 @@ template <class Char> void ProfileText<Char>::AddSection(View section, const Tex
     if (!text_.empty() && !IsLineEnd(text_.back())) {
         text_ += kLineEnd<Char>;
     }
-    const std::size_t begin = text_.size();
-    sections_.back().end = begin;
     text_ += Char{'['};
     text_ += section;
     text_ += Char{']'};
-    const std::size_t body = text_.size();
     text_ += kLineEnd<Char>;
     text_ += line;
     text_ += kLineEnd<Char>;
-    firstOfName_.try_emplace(LowerCase(Trimmed(section)), sections_.size());
-    sections_.push_back({begin, body, text_.size()});
 }
 
 template <class Char> void ProfileText<Char>::Set(View section, View key, View value) {
     section = UpToNul(section);
     key = UpToNul(key);
     const Text assigned = Char{'='} + Text(UpToNul(value));
-    const Text line = Text(key) + assigned;
     const auto found = firstOfName_.find(LowerCase(Trimmed(section)));
-    if (found == firstOfName_.end()) {
-        AddSection(section, line);
-    } else if (const auto entry = FindKey(sections_[found->second], Trimmed(key))) {
-        Replace(found->second, entry->at, entry->length, assigned);
-    } else {
-        AddKey(found->second, line);
-    }
+    const auto entry = found == firstOfName_.end()
+                           ? std::nullopt
+                           : FindKey(sections_[found->second], Trimmed(key));
     // A value that brings line ends of its own may open sections.
-    if (std::ranges::any_of(line, IsLineEnd<Char>)) {
-        IndexSections();
+    if (entry && LineEndFrom(View(assigned), 0) == assigned.size()) {
+        ReplaceValue(*entry, assigned);
+        return;
     }
+    if (entry) {
+        text_.replace(entry->at, entry->length, assigned);
+    } else if (found == firstOfName_.end()) {
+        AddSection(section, Text(key) + assigned);
+    } else {
+        AddKey(sections_[found->second], Text(key) + assigned);
+    }
+    IndexSections();
 }
 
 template class ProfileText<char>;

@@ -31,11 +31,14 @@ public:
     void Set(View section, View key, View value);
 
 private:
-    /// Lines from a section's header up to the next section's.
+    struct Line {
+        std::size_t at;
+        std::size_t length; ///< without its end
+    };
+    /// The lines between a section's header and the next one's.
     struct Section {
-        std::size_t begin;
         std::size_t body; ///< behind the header's text
-        std::size_t end;
+        std::vector<Line> lines;
     };
     /// The "=" of a line and all that follows it; nothing at the line's end when it has none.
     struct Assignment {
@@ -48,9 +51,9 @@ private:
     [[nodiscard]] std::optional<Assignment> FindKey(const Section& section, View key) const;
     [[nodiscard]] std::size_t EndOfLastLine(const Section& section) const;
     [[nodiscard]] std::size_t BehindLineEnd(std::size_t at) const;
-    /// Replaces a part of a section's body and moves all that lies behind it.
-    void Replace(std::size_t section, std::size_t at, std::size_t length, const Text& by);
-    void AddKey(std::size_t section, const Text& line);
+    [[nodiscard]] View TextOf(const Line& line) const;
+    void ReplaceValue(const Assignment& old, const Text& by);
+    void AddKey(const Section& section, const Text& line);
     void AddSection(View section, const Text& line);
 
     Text text_;
