@@ -13,8 +13,10 @@ ROOT = os.path.realpath(os.path.join(os.path.dirname(os.path.realpath(__file__))
 SCRIPT = os.path.join(ROOT, "script", "docs")
 sys.dont_write_bytecode = True
 sys.path.insert(0, os.path.join(ROOT, "script", "lib", "docs"))
+sys.path.insert(0, os.path.join(ROOT, "tests", "tour"))
 
 import includes  # noqa: E402
+import pages  # noqa: E402
 import topic  # noqa: E402
 
 
@@ -104,6 +106,27 @@ class IncludesAreCounted(unittest.TestCase):
 class TheProjectsDocuments(unittest.TestCase):
     def test_hold(self) -> None:
         self.assertEqual(offences(ROOT), [])
+
+    def test_show_every_page_of_the_wizard(self) -> None:
+        with open(os.path.join(ROOT, "docs/pictures/pictures.txt"), encoding="utf-8") as file:
+            shots = {line.split()[1] for line in file if not line.startswith("#")}
+        # Shown under one of the two types at least, and what differs between them under both.
+        for place, title, _ in pages.MANUAL + pages.ACTIVE_DIRECTORY:
+            names = {f"{label}-{pages.slug(title)}" for label in ("manual", "directory")}
+            with self.subTest(title=title):
+                self.assertTrue(names & shots)
+                if place in (12, 14, 17):
+                    self.assertTrue(names <= shots or place == 14, names - shots)
+        self.assertLessEqual({"manual-deployment", "directory-deployment",
+                              "directory-deployment-general"}, shots)
+
+    def test_show_the_page_that_a_topic_explains(self) -> None:
+        with open(os.path.join(ROOT, "help/topics.txt"), encoding="utf-8") as file:
+            rows = [line.split() for line in file if not line.startswith("#")]
+        for _, number, source in rows:
+            path = os.path.join(ROOT, "docs/guide", source.replace(".html", ".md"))
+            with self.subTest(source=source), open(path, encoding="utf-8") as file:
+                self.assertEqual("](../pictures/windows/" in file.read(), number != "-")
 
 
 class Offences(unittest.TestCase):
