@@ -7,6 +7,7 @@
 #include <wx/gauge.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
+#include <wx/toplevel.h>
 
 #include <algorithm>
 
@@ -38,6 +39,9 @@ frmProgress::frmProgress(wxWindow* owner)
     frame->Add(rows, wxSizerFlags(1).Expand().Border(wxALL, 2 * gap));
     SetSizerAndFit(frame);
     CentreOnParent();
+    if (const auto* const program = wxDynamicCast(owner, wxTopLevelWindow)) {
+        SetIcons(program->GetIcons());
+    }
     // The desktop may offer to close any window, and Esc does without one.
     Bind(wxEVT_CLOSE_WINDOW, [](wxCloseEvent& event) { event.Veto(); });
     SetEscapeId(wxID_NONE);

@@ -50,6 +50,9 @@ frmAbout::frmAbout(wxWindow* owner, const ProductVersion& version)
     rows->Add(cmdOK, wxSizerFlags().Right());
     auto* const frame = new wxBoxSizer(wxVERTICAL);
     frame->Add(rows, wxSizerFlags(1).Expand().Border(wxALL, border));
+    // The caption is wider than all else, and is cut where it finds no room beside its buttons.
+    constexpr int kBesideCaption = 110;
+    frame->SetMinSize(GetTextExtent(GetTitle()).x + FromDIP(kBesideCaption), -1);
     SetSizerAndFit(frame);
     CentreOnParent();
 }
