@@ -126,7 +126,7 @@ public:
     [[nodiscard]] std::string Find(std::string_view section, std::string_view key,
                                    std::size_t most) const {
         if (const auto* wide = std::get_if<Wide>(&text_)) {
-            const auto value = wide->Find(Utf16FromUtf8(section), Utf16FromUtf8(key));
+            const auto value = wide->Find(Utf16FromUtf8(Held(section)), Utf16FromUtf8(Held(key)));
             return value ? Cut(AnsiFromUtf8(Utf8FromUtf16(*value)), most) : std::string();
         }
         const auto value = std::get<Narrow>(text_).Find(Encoded(section), Encoded(key));
@@ -137,15 +137,11 @@ public:
     }
 
     void Set(std::string_view section, std::string_view key, std::string_view value) {
-        // What the code page cannot hold is lost in every encoding: the real functions take and
-        // give ANSI texts only.
-        const std::string ansi = AnsiFromUtf8(value);
         if (auto* wide = std::get_if<Wide>(&text_)) {
-            wide->Set(Utf16FromUtf8(section), Utf16FromUtf8(key),
-                      Utf16FromUtf8(Utf8FromAnsi(ansi)));
+            wide->Set(Utf16FromUtf8(Held(section)), Utf16FromUtf8(Held(key)),
+                      Utf16FromUtf8(Held(value)));
         } else {
-            std::get<Narrow>(text_).Set(Encoded(section), Encoded(key),
-                                        encoding_ == Encoding::Utf8 ? Utf8FromAnsi(ansi) : ansi);
+            std::get<Narrow>(text_).Set(Encoded(section), Encoded(key), Encoded(value));
         }
     }
 
@@ -172,8 +168,14 @@ private:
     static std::string Cut(std::string_view ansi, std::size_t most) {
         return Utf8FromAnsi(ansi.substr(0, most));
     }
+    /// What the code page cannot hold is lost in every encoding, in names and values alike: the
+    /// real functions take and give ANSI texts only.
+    [[nodiscard]] static std::string Held(std::string_view utf8) {
+        return Utf8FromAnsi(AnsiFromUtf8(utf8));
+    }
+
     [[nodiscard]] std::string Encoded(std::string_view utf8) const {
-        return encoding_ == Encoding::Utf8 ? std::string(utf8) : AnsiFromUtf8(utf8);
+        return encoding_ == Encoding::Utf8 ? Held(utf8) : AnsiFromUtf8(utf8);
     }
 
     Encoding encoding_ = Encoding::Ansi;

@@ -138,6 +138,13 @@ TEST_F(ProfileWrite, AMarkedFileKeepsItsEncoding) {
               "\xFE\xFF\0[\0a\0]\0\r\0\n\0j\0=\0\xE4\0\r\0\n"s);
 }
 
+TEST_F(ProfileWrite, NamesAndValuesOfAMarkedFileHoldWhatTheCodePageHas) {
+    using namespace std::string_literals;
+    EXPECT_EQ(After("\xEF\xBB\xBF", "жa", "kж", "vж"), "\xEF\xBB\xBF[?a]\r\nk?=v?\r\n");
+    EXPECT_EQ(After("\xFF\xFE", "ж", "k", "ä"), "\xFF\xFE[\0?\0]\0\r\0\n\0k\0=\0\xE4\0\r\0\n\0"s);
+    EXPECT_EQ(Value("ж", "k"), "ä");
+}
+
 TEST_F(ProfileWrite, AMarkAloneIsAnEmptyFile) {
     EXPECT_EQ(After("\xEF\xBB\xBF", "a", "k", "1"), "\xEF\xBB\xBF[a]\r\nk=1\r\n");
 }
