@@ -168,10 +168,18 @@ class Comparison:
     def leave_report(self, files):
         """For who collects the results of all tests in one text."""
         folder = os.environ.get("QUEUESHIFT_REPORT")
-        if folder:
-            rows = [f"{name} | {count}\n" for name, count, _ in self.verdicts()]
-            text = f"{self.totals(files)}\n\nknown deviation | answers excused\n--- | ---\n"
-            pathlib.Path(folder, "differential-profile.md").write_text(text + "".join(rows))
+        if not folder:
+            return
+        lines = [
+            "## Ours and the system's own profile functions",
+            "",
+            f"{self.totals(files)} of Wine, by whose functions Windows' are stood for:",
+            "",
+        ]
+        lines += [f"- {name}" for name, _, _ in self.verdicts()]
+        pathlib.Path(folder).mkdir(parents=True, exist_ok=True)
+        path = pathlib.Path(folder, "differential-profile.md")
+        path.write_text("\n".join(lines) + "\n", encoding="utf-8")
 
 
 def main():
