@@ -30,7 +30,7 @@ std::string TextOf(const wxTextEntry& entry) {
 }
 
 void PutText(wxTextEntry& entry, const std::string& text) {
-    entry.ChangeValue(ToWx(text));
+    entry.ChangeValue(ToWx(text.substr(0, text.find_first_of("\r\n"))));
 }
 
 void EnterText(wxTextCtrl& box, const std::string& text) {

@@ -23,6 +23,8 @@ namespace editors {
 /// The texts as the record holds them.
 std::string TextOf(const wxTextEntry& entry);
 
+/// Of several lines the first, as when they are pasted: a folder or a published queue may be named
+/// with a line break, and what fields hold becomes lines of files.
 void PutText(wxTextEntry& entry, const std::string& text);
 /// Also runs the change handler, whether or not the text is another one.
 void EnterText(wxTextCtrl& box, const std::string& text);

@@ -1,6 +1,8 @@
 // What the fields take of a text of several lines.
 #include "editors/active_directory_page.h"
 #include "editors/client_popup_page.h"
+#include "editors/controls.h"
+#include "editors/folder_field.h"
 #include "editors/maintenance_pages.h"
 #include "editors/pair_pages.h"
 
@@ -46,6 +48,22 @@ TEST_F(OneLine, TheDomainTakesTheFirst) {
 TEST_F(OneLine, APickerTakesTheFirst) {
     auto& prune = Make<editors::PrunePage>(12);
     ExpectFirstLine(prune.cboADPrune, *prune.cboADPrune);
+}
+
+TEST_F(OneLine, AFieldThatTheProgramFillsTakesTheFirst) {
+    auto& servers = Make<editors::ServersPage>(2);
+    editors::PutText(*servers.txtFromServer, "first\nsecond");
+    EXPECT_EQ(editors::TextOf(*servers.txtFromServer), "first");
+}
+
+TEST_F(OneLine, AFolderWithALineBreakInItsNameIsTakenUpToIt) {
+    const editors::FolderServices folders{
+        .browse = [](wxWindow*) { return std::string("/srv/first\nsecond"); },
+        .exists = [](const std::string&) { return true; },
+    };
+    auto& servers = Make<editors::ServersPage>(2);
+    editors::BrowseInto(*servers.txtFromServer, folders);
+    EXPECT_EQ(editors::TextOf(*servers.txtFromServer), "/srv/first");
 }
 
 } // namespace
