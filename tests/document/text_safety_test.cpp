@@ -187,7 +187,7 @@ protected:
         return g_Document;
     }
     /// A save is slow where the system's functions write every key by itself.
-    static int Documents() { return test::IsWine() ? 300 : 1000; }
+    static int Documents() { return test::IsWine() ? 60 : 1000; }
 
 private:
     int number_ = 0;
