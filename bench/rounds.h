@@ -14,7 +14,7 @@ namespace bench {
 struct Side {
     std::string name;
     std::function<void()> work;
-    std::vector<double> times = {}; ///< seconds of each round
+    std::vector<double> times = {}; ///< of each round, in seconds unless another unit is told
 };
 
 inline double Median(std::vector<double> values) {
@@ -39,9 +39,18 @@ inline void Run(
     }
 }
 
+/// How a median is told.
+struct Unit {
+    const char* name;
+    double factor;
+};
+inline constexpr Unit kMilliseconds{"ms", 1e3};
+inline constexpr Unit kMebibytes{"MiB", 1};
+
 /// The median of each side, and the first one's ratio to the fastest of the others but those
 /// whose name begins with "(".
-inline void Print(const std::string& title, const std::vector<Side>& sides, double mark) {
+inline void Print(const std::string& title, const std::vector<Side>& sides, double mark,
+                  Unit unit = kMilliseconds) {
     double fastest = 0;
     for (std::size_t i = 1; i < sides.size(); ++i) {
         const double median = Median(sides[i].times);
@@ -52,7 +61,8 @@ inline void Print(const std::string& title, const std::vector<Side>& sides, doub
     std::printf("%s: %.2f of the fastest peer, mark %.2f\n", title.c_str(),
                 Median(sides[0].times) / fastest, mark);
     for (const Side& side : sides) {
-        std::printf("  %-44s %10.3f ms\n", side.name.c_str(), Median(side.times) * 1e3);
+        std::printf("  %-44s %10.3f %s\n", side.name.c_str(), Median(side.times) * unit.factor,
+                    unit.name);
     }
 }
 

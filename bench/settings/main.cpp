@@ -6,6 +6,7 @@
 // No side waits for the disk: flushing is a no-op in this program, but for the row that shows what
 // it costs us. Reading ends with the entries of every list, and writing begins with them, on every
 // side; what a peer takes that leaves the lists whole is shown apart.
+#include "bench/full_document.h"
 #include "bench/rounds.h"
 #include "document/document.h"
 #include "document/keys.h"
@@ -42,34 +43,6 @@ void Expect(bool condition, const char* what) {
     if (!condition) {
         throw std::runtime_error(what);
     }
-}
-
-template <class Element, class Make> void Fill(std::vector<Element>& list, Make make) {
-    list.clear();
-    for (int i = 0; i < 380; ++i) {
-        list.push_back(make("PRINTSRV" + std::to_string(1000 + i) + ".corp.example"));
-    }
-}
-
-/// Every list near the 9,999 characters that a file holds of it.
-void FillDocument() {
-    using namespace modINIDocument;
-    ResetDocument();
-    Fill(g_Document.ServerPairs, [](const std::string& name) { return NamePair{name, name}; });
-    Fill(g_Document.PrinterPairs, [](const std::string& name) { return NamePair{name, name}; });
-    Fill(g_Document.MixedPairs, [](const std::string& name) {
-        return MixedPair{name, name, name, name};
-    });
-    Fill(g_Document.EmailTo, [](const std::string& name) { return name; });
-    Fill(g_Document.PopulateList, [](const std::string& name) {
-        return ServerPrinterName{name, name};
-    });
-    Fill(g_Document.PruneList, [](const std::string& name) {
-        return ServerPrinterName{name, name};
-    });
-    Fill(g_Document.PrinterDrivers, [](const std::string& name) {
-        return PrinterDriver{name, name};
-    });
 }
 
 struct KeyedValue {
@@ -239,7 +212,7 @@ void Save() {
 void Measure(const std::filesystem::path& folder, int rounds) {
     const std::string ours = (folder / "ours.ini").string();
     modINIDocument::g_strINIFilePath = ours;
-    FillDocument();
+    bench::FillDocument();
     Save();
     const auto entries = EntriesOf(ReadByKeyFile(ours));
     std::printf("a file of %ju bytes, medians of %d rounds\n", std::filesystem::file_size(ours),
@@ -253,7 +226,7 @@ void Measure(const std::filesystem::path& folder, int rounds) {
         {"(GKeyFile, lists taken apart as with SimpleIni)",
          [&] { SplitAll(ReadByKeyFile(ours)); }}};
     bench::Run(reads, rounds);
-    Expect(!g_Document.ReadFailed && g_Document.MixedPairs.size() == 380, "our read");
+    Expect(!g_Document.ReadFailed && g_Document.MixedPairs.size() == bench::kFullList, "our read");
     bench::Print("reading", reads, 1.0);
 
     for (const auto* const name : {"glib.ini", "simple.ini", "wx.ini"}) {
