@@ -68,10 +68,10 @@ std::vector<std::string> ItemsOf(const wxItemContainerImmutable& items) {
 }
 
 void PutItems(wxItemContainer& container, const std::vector<std::string>& items) {
-    wxArrayString texts;
-    texts.Alloc(items.size());
+    std::vector<wxString> texts;
+    texts.reserve(items.size());
     for (const std::string& item : items) {
-        texts.Add(ToWx(item));
+        texts.push_back(ToWx(item));
     }
     container.Set(texts);
 }

@@ -1,5 +1,7 @@
 #include "platform/ui/list_box.h"
 
+#include <optional>
+
 namespace platform::ui {
 
 ListBox::ListBox(wxWindow* parent, const wxSize& size)
@@ -7,7 +9,10 @@ ListBox::ListBox(wxWindow* parent, const wxSize& size)
                 wxLB_SINGLE | wxLB_HSCROLL | wxLB_NEEDED_SB) {}
 
 void ListBox::DoClear() {
-    wxListBox::DoClear();
+    {
+        const RowsUnseen unseen(*this);
+        wxListBox::DoClear();
+    }
     Follow(0);
 }
 
@@ -23,9 +28,18 @@ void ListBox::DoSetSelection(int row, bool select) {
 
 int ListBox::DoInsertItems(const wxArrayStringsAdapter& items, unsigned int row, void** clientData,
                            wxClientDataType type) {
+    std::optional<RowsUnseen> unseen;
+    if (IsEmpty()) {
+        unseen.emplace(*this);
+    }
     const int last = wxListBox::DoInsertItems(items, row, clientData, type);
+    unseen.reset();
     Follow(0);
     return last;
+}
+
+RowsUnseen::~RowsUnseen() {
+    end_();
 }
 
 // The toolkit keeps silent about the row that it told of last. Once the program has moved the

@@ -3,6 +3,8 @@
 
 #include <wx/listbox.h>
 
+#include <functional>
+
 namespace platform::ui {
 
 /// One row at most is selected. wxEVT_LISTBOX tells of each row that the user selects, whatever the
@@ -21,6 +23,20 @@ protected:
 
 private:
     void Follow(int row);
+};
+
+/// While it lives, a list loses and gets its rows unseen: what shows them, on the screen and to a
+/// screen reader, learns of all of them at once at the end. For a list whose rows are all new,
+/// since none is selected afterwards.
+class RowsUnseen {
+public:
+    explicit RowsUnseen(wxListBox& list);
+    ~RowsUnseen();
+    RowsUnseen(const RowsUnseen&) = delete;
+    RowsUnseen& operator=(const RowsUnseen&) = delete;
+
+private:
+    std::function<void()> end_;
 };
 
 /// Puts the place from which the keyboard moves on the row that is selected. Where none is, and the

@@ -39,4 +39,22 @@ void PlaceListCursor(wxListBox& list, int row) {
     list.GTKEnableEvents();
 }
 
+// A view is told of each row that comes or goes, and tells its accessible object, which costs many
+// times what the row does.
+RowsUnseen::RowsUnseen(wxListBox& list) {
+    GtkTreeView* const view = GTK_TREE_VIEW(list.m_treeview);
+    // The view is the only one that keeps the rows, and forgets with them where it searches.
+    GtkTreeModel* const rows = gtk_tree_view_get_model(view);
+    g_object_ref(rows);
+    const int searched = gtk_tree_view_get_search_column(view);
+    list.GTKDisableEvents();
+    gtk_tree_view_set_model(view, nullptr);
+    end_ = [&list, view, rows, searched] {
+        gtk_tree_view_set_model(view, rows);
+        g_object_unref(rows);
+        gtk_tree_view_set_search_column(view, searched);
+        list.GTKEnableEvents();
+    };
+}
+
 } // namespace platform::ui
