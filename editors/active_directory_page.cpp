@@ -1,6 +1,7 @@
 #include "editors/active_directory_page.h"
 
 #include "platform/ui/control_name.h"
+#include "platform/ui/line_room.h"
 #include "platform/ui/one_line.h"
 #include "platform/ui/same_choice.h"
 
@@ -16,6 +17,7 @@ ActiveDirectoryPage::ActiveDirectoryPage(wxWindow* parent, int position)
     Body().Add(lblActiveDirectory, wxSizerFlags().Border(wxBOTTOM, FromDIP(kGap) / 2));
     cboDomainName = new wxComboBox(this, wxID_ANY);
     platform::ui::TakeOneLine(*cboDomainName);
+    platform::ui::RoomForLine(*cboDomainName);
     // The domain picked once more asks for another look at its printers.
     platform::ui::TellEveryChoice(*cboDomainName);
     NameControl(*cboDomainName, "cboDomainName", text);

@@ -1,6 +1,7 @@
 #include "editors/client_popup_page.h"
 
 #include "platform/ui/control_name.h"
+#include "platform/ui/line_room.h"
 #include "platform/ui/one_line.h"
 
 namespace editors {
@@ -25,6 +26,7 @@ ClientPopupPage::ClientPopupPage(wxWindow* parent, int position)
 wxTextCtrl* ClientPopupPage::AddMessage(const wxString& name, const wxString& label) {
     auto* const box = new wxTextCtrl(this, wxID_ANY);
     platform::ui::TakeOneLine(*box);
+    platform::ui::RoomForLine(*box);
     platform::ui::NameControl(*box, name, label);
     Body().Add(box, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(2 * kGap)));
     return box;

@@ -1,12 +1,14 @@
 #include "editors/general_page.h"
 
 #include "platform/ui/control_name.h"
+#include "platform/ui/line_room.h"
 
 namespace editors {
 
 GeneralPage::GeneralPage(wxWindow* parent, int position) : Page(parent, position, "General") {
     AddLabel(21, "Configuration File Type: (Read Only)");
     cboConfigurationFileType = new wxChoice(this, wxID_ANY);
+    platform::ui::RoomForLine(*cboConfigurationFileType);
     cboConfigurationFileType->Append("Active Directory");
     cboConfigurationFileType->Append("Manual Configuration");
     cboConfigurationFileType->Disable();

@@ -23,13 +23,16 @@ namespace {
 // none: the text stands in one line with the page's other texts.
 constexpr int kMargin = 2;
 
-// The system's colour of links, or the usual one where the system's does not stand out from the
-// background.
+// The system's colour of links, or one that stands out from the background where the system's does
+// not.
 wxColour LinkColour(const wxColour& background) {
     constexpr double kLeastDifference = 0.35;
     const wxColour colour = wxSystemSettings::GetColour(wxSYS_COLOUR_HOTLIGHT);
-    const double difference = colour.GetLuminance() - background.GetLuminance();
-    return std::abs(difference) < kLeastDifference ? wxColour(0, 102, 204) : colour;
+    const double ground = background.GetLuminance();
+    if (std::abs(colour.GetLuminance() - ground) >= kLeastDifference) {
+        return colour;
+    }
+    return ground < 0.5 ? wxColour(128, 190, 255) : wxColour(0, 102, 204);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "document/item_text.h"
 #include "editors/queue_list.h"
 #include "platform/ui/control_name.h"
+#include "platform/ui/line_room.h"
 #include "platform/ui/one_line.h"
 #include "platform/ui/same_choice.h"
 
@@ -77,6 +78,7 @@ void ApplyReserved(wxTextCtrl& box, const char* reserved, const wxListBox& list)
 
 wxChoice* MakeChoice(wxWindow* parent, const wxString& name, const wxString& label) {
     auto* const choice = new wxChoice(parent, wxID_ANY);
+    platform::ui::RoomForLine(*choice);
     NameControl(*choice, name, label);
     // The type chosen once more puts its reserved text back into an emptied box.
     platform::ui::TellEveryChoice(*choice);

@@ -1,6 +1,7 @@
 #include "editors/page.h"
 
 #include "platform/ui/control_name.h"
+#include "platform/ui/line_room.h"
 #include "platform/ui/list_box.h"
 #include "platform/ui/one_line.h"
 
@@ -144,6 +145,7 @@ wxTextCtrl* Page::AddTextRow(wxFlexGridSizer& rows, int labelIndex, const wxStri
     wxStaticText* const text = MakeLabel(labelIndex, label);
     auto* const box = new wxTextCtrl(this, wxID_ANY);
     platform::ui::TakeOneLine(*box);
+    platform::ui::RoomForLine(*box);
     NameControl(*box, name, label);
     rows.Add(text, wxSizerFlags().CentreVertical());
     rows.Add(box, wxSizerFlags(1).Expand().CentreVertical().Border(wxLEFT, FromDIP(kGap)));

@@ -3,6 +3,7 @@
 
 #include "editors/paragraph.h"
 #include "platform/ui/control_name.h"
+#include "platform/ui/line_room.h"
 #include "platform/ui/list_box.h"
 #include "platform/ui/option_keys.h"
 
@@ -86,6 +87,7 @@ wxWindow* frmNewINI::CreateExistingPage() {
     auto* const lblExisting = new wxStaticText(page, wxID_ANY, text);
     NameControl(*lblExisting, "lblExisting");
     drvExistingINI = new wxChoice(page, wxID_ANY);
+    platform::ui::RoomForLine(*drvExistingINI);
     NameControl(*drvExistingINI, "drvExistingINI", "Drive");
     dirExistingINI = new platform::ui::ListBox(page, ListSize(*this));
     NameControl(*dirExistingINI, "dirExistingINI", "Folders");
@@ -128,7 +130,7 @@ wxSizer* frmNewINI::CreateButtons() {
 frmNewINI::frmNewINI(wxWindow* owner)
     : wxDialog(owner, wxID_ANY, "New INI", wxDefaultPosition, wxDefaultSize,
                wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER) {
-    SetName("frmNewINI");
+    NameControl(*this, "frmNewINI");
     sstNewINI = new wxNotebook(this, wxID_ANY);
     NameControl(*sstNewINI, "sstNewINI", "New INI");
     sstNewINI->AddPage(CreateNewPage(), "New");

@@ -8,6 +8,7 @@
 #include "platform/program.h"
 #include "platform/ui/control_name.h"
 #include "platform/ui/text.h"
+#include "platform/ui/text_scale.h"
 #include "wizard/icons.h"
 #include "wizard/page_texts.h"
 
@@ -19,6 +20,7 @@ using modINIDocument::g_bolDocumentChanged;
 using modINIDocument::g_Document;
 using modINIDocument::g_strINIFilePath;
 using modINIDocument::g_strINIFileTitle;
+using platform::ui::ForFont;
 using platform::ui::NameControl;
 
 namespace {
@@ -47,12 +49,12 @@ frmWizard::frmWizard()
     NameControl(*sstWizard, "sstWizard");
     CreatePages();
     BindPages();
-    splitter->SplitVertically(tvwWizardOptions->Control(), sstWizard, FromDIP(230));
+    splitter->SplitVertically(tvwWizardOptions->Control(), sstWizard, ForFont(*this, {220, 0}).x);
     splitter->SetMinimumPaneSize(FromDIP(150));
     splitter->SetSashGravity(0.0);
 
-    SetMinClientSize(FromDIP(wxSize(760, 560)));
-    SetClientSize(FromDIP(wxSize(880, 600)));
+    SetMinClientSize(ForFont(*this, {770, 480}));
+    SetClientSize(ForFont(*this, {880, 600}));
     Centre();
     Bind(wxEVT_CLOSE_WINDOW, &frmWizard::Form_Unload, this);
     Bind(wxEVT_CHAR_HOOK, &frmWizard::OnKey, this);

@@ -1,6 +1,7 @@
 #include "platform/ui/linux/network_folder_dialog.h"
 
 #include "platform/ui/control_name.h"
+#include "platform/ui/line_room.h"
 #include "platform/ui/pump.h"
 #include "platform/ui/text.h"
 
@@ -50,6 +51,7 @@ NetworkFolderDialog::NetworkFolderDialog(wxWindow* owner, NetworkLister lister)
     : wxDialog(owner, wxID_ANY, "Select a network computer or share.", wxDefaultPosition,
                wxDefaultSize, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       lister_(std::move(lister)) {
+    NameControl(*this, "dlgNetworkFolder");
     auto* const frame = new wxBoxSizer(wxVERTICAL);
     const int gap = FromDIP(6);
     frame->Add(ComputerRow(), wxSizerFlags().Expand().Border(wxALL, 2 * gap));
@@ -99,8 +101,10 @@ NetworkFolderDialog::NetworkFolderDialog(wxWindow* owner, NetworkLister lister)
 
 wxSizer* NetworkFolderDialog::ComputerRow() {
     auto* const label = new wxStaticText(this, wxID_ANY, "Com&puter:");
+    NameControl(*label, "lblComputer");
     txtComputer = new wxTextCtrl(this, wxID_ANY, g_computer, wxDefaultPosition, wxDefaultSize,
                                  wxTE_PROCESS_ENTER);
+    RoomForLine(*txtComputer);
     NameControl(*txtComputer, "txtComputer", "Computer:");
     cmdShow = new wxButton(this, wxID_ANY, "&Show");
     NameControl(*cmdShow, "cmdShow");
