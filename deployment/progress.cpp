@@ -22,7 +22,7 @@ constexpr int kWidth = 48;
 
 frmProgress::frmProgress(wxWindow* owner)
     : wxDialog(owner, wxID_ANY, "Queueshift", wxDefaultPosition, wxDefaultSize, wxCAPTION) {
-    SetName("frmProgress");
+    NameControl(*this, "frmProgress");
     lblProgress = new wxStaticText(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
                                    wxST_NO_AUTORESIZE);
     NameControl(*lblProgress, "lblProgress");

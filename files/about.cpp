@@ -26,7 +26,7 @@ ProductVersion CurrentVersion() {
 
 frmAbout::frmAbout(wxWindow* owner, const ProductVersion& version)
     : wxDialog(owner, wxID_ANY, wxString()), version_(version) {
-    SetName("frmAbout");
+    NameControl(*this, "frmAbout");
     lblTitle = new wxStaticText(this, wxID_ANY, wxString());
     NameControl(*lblTitle, "lblTitle");
     lblTitle->SetFont(lblTitle->GetFont().Bold().Larger());

@@ -1,8 +1,9 @@
 // The command bar: menus, toolbar and the one handler behind them.
 #include "directory/ad_printers.h"
 #include "files/about.h"
-#include "platform/ui/control_name.h"
+#include "platform/ui/command_name.h"
 #include "platform/ui/menu_key.h"
+#include "platform/ui/text.h"
 #include "wizard/commands.h"
 #include "wizard/help.h"
 #include "wizard/icons.h"
@@ -27,7 +28,7 @@ void frmWizard::CreateCommandBar() {
         return found->second;
     };
     auto* const bar = new wxMenuBar;
-    bar->SetName("Queueshift INI Editor");
+    std::vector<wxString> menus;
     for (const modWizard::Menu& menu : modWizard::Menus()) {
         auto* const entries = new wxMenu;
         for (const modWizard::MenuEntry& entry : menu.entries) {
@@ -39,15 +40,19 @@ void frmWizard::CreateCommandBar() {
             if (*entry.accelerator != '\0') {
                 text << '\t' << entry.accelerator;
             }
-            entries->Append(idOf(entry.tool), text);
+            wxMenuItem* const item = entries->Append(idOf(entry.tool), text);
+            platform::ui::NameMenuEntry(*item, platform::ui::ToWx(entry.tool));
         }
         bar->Append(entries, menu.caption);
+        menus.push_back(platform::ui::ToWx(menu.id));
     }
+    platform::ui::NameMenuBar(*bar, "Queueshift INI Editor", menus);
     SetMenuBar(bar);
 
     wxToolBar* const tools = CreateToolBar(wxTB_HORIZONTAL | wxTB_FLAT);
-    platform::ui::NameControl(*tools, "Queueshift INI EditorToolbar", "Toolbar");
+    std::vector<wxString> names;
     for (const modWizard::ToolButton& button : modWizard::ToolButtons()) {
+        names.push_back(platform::ui::ToWx(button.tool));
         if (button.tool.empty()) {
             tools->AddSeparator();
         } else {
@@ -56,6 +61,7 @@ void frmWizard::CreateCommandBar() {
         }
     }
     tools->Realize();
+    platform::ui::NameToolBar(*tools, "Queueshift INI EditorToolbar", names);
 }
 
 void frmWizard::ssaQueueshift_ToolClick(std::string_view tool) {

@@ -1,20 +1,28 @@
 #include "wizard/help_viewer.h"
 
+#include "platform/ui/command_name.h"
 #include "platform/ui/control_name.h"
+#include "platform/ui/text_scale.h"
 #include "wizard/icons.h"
 
 #include <wx/accel.h>
 #include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/choice.h>
 #include <wx/html/helpdata.h>
 #include <wx/html/htmlwin.h>
 #include <wx/listbox.h>
 #include <wx/log.h>
 #include <wx/notebook.h>
 #include <wx/sizer.h>
+#include <wx/stattext.h>
 #include <wx/textctrl.h>
+#include <wx/toolbar.h>
 #include <wx/treectrl.h>
 
 #include <array>
+#include <map>
+#include <vector>
 
 namespace modWizard {
 
@@ -24,14 +32,14 @@ constexpr const char* kTitle = "Queueshift Help";
 
 // The rest of what either window is: its one pane, its size, and Esc to close it.
 HelpPane* Furnish(wxTopLevelWindow& window, const wxString& name) {
-    window.SetName(name);
+    platform::ui::NameControl(window, name);
     window.SetIcons(ProgramIcons());
     auto* const pane = new HelpPane(&window);
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(pane, wxSizerFlags(1).Expand());
     window.SetSizer(sizer);
-    window.SetMinClientSize(window.FromDIP(wxSize(480, 320)));
-    window.SetClientSize(window.FromDIP(wxSize(880, 640)));
+    window.SetMinClientSize(platform::ui::ForFont(window, {480, 320}));
+    window.SetClientSize(platform::ui::ForFont(window, {880, 640}));
     window.CentreOnParent();
     window.Bind(wxEVT_CHAR_HOOK, [&window](wxKeyEvent& event) {
         if (event.GetKeyCode() == WXK_ESCAPE && !event.HasAnyModifiers()) {
@@ -46,7 +54,7 @@ HelpPane* Furnish(wxTopLevelWindow& window, const wxString& name) {
 } // namespace
 
 HelpPane::HelpPane(wxWindow* parent) {
-    m_Cfg.sashpos = parent->FromDIP(280);
+    m_Cfg.sashpos = platform::ui::ForFont(*parent, {280, 0}).x;
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxNO_BORDER,
            wxHF_TOOLBAR | wxHF_FLAT_TOOLBAR | wxHF_CONTENTS | wxHF_INDEX | wxHF_SEARCH |
                wxHF_MERGE_BOOKS | wxHF_ICONS_BOOK);
@@ -54,20 +62,42 @@ HelpPane::HelpPane(wxWindow* parent) {
         wxAcceleratorEntry(wxACCEL_ALT, WXK_LEFT, wxID_HTML_BACK),
         wxAcceleratorEntry(wxACCEL_ALT, WXK_RIGHT, wxID_HTML_FORWARD)};
     SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(keys.size()), keys.data()));
-    platform::ui::NameControl(*m_NavigNotebook, "sstHelp");
-    platform::ui::NameControl(*GetTreeCtrl(), "tvwHelpContents", "Contents");
-    platform::ui::NameControl(*m_IndexText, "txtHelpIndex", "Index word");
-    platform::ui::NameControl(*m_IndexList, "lstHelpIndex", "Index");
-    platform::ui::NameControl(*m_SearchText, "txtHelpSearch", "Search for");
-    platform::ui::NameControl(*m_SearchButton, "cmdHelpSearch");
-    platform::ui::NameControl(*m_SearchList, "lstHelpFound", "Topics found");
-    platform::ui::NameControl(*GetHtmlWindow(), "htmHelpTopic");
+    NameControls();
     Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
         DescribeTopic();
         event.Skip();
     });
     m_SearchButton->Bind(wxEVT_BUTTON, &HelpPane::Search, this);
     m_SearchText->Bind(wxEVT_TEXT_ENTER, &HelpPane::Search, this);
+}
+
+void HelpPane::NameControls() {
+    using platform::ui::NameControl;
+    NameControl(*m_NavigNotebook, "sstHelp", "Ways to a topic");
+    NameControl(*GetTreeCtrl(), "tvwHelpContents", "Contents");
+    NameControl(*m_IndexText, "txtHelpIndex", "Index word");
+    NameControl(*m_IndexButton, "cmdHelpIndex");
+    NameControl(*m_IndexButtonAll, "cmdHelpIndexAll");
+    NameControl(*m_IndexCountInfo, "lblHelpIndex");
+    NameControl(*m_IndexList, "lstHelpIndex", "Index");
+    NameControl(*m_SearchText, "txtHelpSearch", "Search for");
+    NameControl(*m_SearchChoice, "cboHelpSearch", "Books to search");
+    NameControl(*m_SearchCaseSensitive, "chkHelpCase");
+    NameControl(*m_SearchWholeWords, "chkHelpWords");
+    NameControl(*m_SearchButton, "cmdHelpSearch");
+    NameControl(*m_SearchList, "lstHelpFound", "Topics found");
+    NameControl(*GetHtmlWindow(), "htmHelpTopic");
+    const std::map<int, wxString> tools{
+        {wxID_HTML_PANEL, "cmdHelpPanel"},     {wxID_HTML_BACK, "cmdHelpBack"},
+        {wxID_HTML_FORWARD, "cmdHelpForward"}, {wxID_HTML_UPNODE, "cmdHelpUpNode"},
+        {wxID_HTML_UP, "cmdHelpUp"},           {wxID_HTML_DOWN, "cmdHelpDown"},
+        {wxID_HTML_OPTIONS, "cmdHelpOptions"}};
+    std::vector<wxString> names;
+    for (std::size_t i = 0; i < GetToolBar()->GetToolsCount(); ++i) {
+        const auto tool = tools.find(GetToolBar()->GetToolByPos(static_cast<int>(i))->GetId());
+        names.push_back(tool == tools.end() ? wxString() : tool->second);
+    }
+    platform::ui::NameToolBar(*GetToolBar(), "tlbHelp", names);
 }
 
 // The toolkit disables the window while it searches, and gives the focus back too early for GTK:
@@ -103,12 +133,20 @@ wxString HelpPane::TopicText() const {
     return GetHtmlWindow()->ToText();
 }
 
-// The toolkit draws a topic by itself: a screen reader learns its words as the name of the window.
+// The toolkit draws the contents and the topic by itself: a screen reader learns the marked entry
+// and the topic's words as the names of their windows.
 void HelpPane::DescribeTopic() {
     const wxString page = GetHtmlWindow()->GetOpenedPage();
     if (page != described_) {
         described_ = page;
         platform::ui::NameControl(*GetHtmlWindow(), "htmHelpTopic", TopicText());
+    }
+    const wxTreeItemId entry = GetTreeCtrl()->GetSelection();
+    if (entry != marked_) {
+        marked_ = entry;
+        platform::ui::NameControl(*GetTreeCtrl(), "tvwHelpContents",
+                                  entry.IsOk() ? "Contents: " + GetTreeCtrl()->GetItemText(entry)
+                                               : wxString("Contents"));
     }
 }
 

@@ -5,6 +5,7 @@
 #include <wx/dialog.h>
 #include <wx/frame.h>
 #include <wx/html/helpwnd.h>
+#include <wx/treebase.h>
 
 namespace modWizard {
 
@@ -24,10 +25,12 @@ public:
     [[nodiscard]] wxString TopicText() const;
 
 private:
+    void NameControls();
     void DescribeTopic();
     void Search(wxCommandEvent& event);
 
     wxString described_;
+    wxTreeItemId marked_; ///< the entry of the contents that is told
 };
 
 class HelpFrame : public wxFrame {

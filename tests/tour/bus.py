@@ -90,6 +90,27 @@ class Control:
             if child.name == name and (not roles or child.role in roles)
         ]
 
+    def act(self, action):
+        """Does what the control itself offers under this name; false where it offers no such."""
+
+        def do(node):
+            count = node.get_n_actions()
+            names = [Atspi.Action.get_action_name(node, i) for i in range(count)]
+            return action in names and node.do_action(names.index(action))
+
+        return self._ask(do, False)
+
+    def focus(self):
+        return self._ask(lambda node: node.grab_focus(), False)
+
+    def select(self):
+        """Chooses this tab or entry where it is one of several."""
+
+        def choose(node):
+            return Atspi.Selection.select_child(node.get_parent(), node.get_index_in_parent())
+
+        return self._ask(choose, False)
+
     @property
     def box(self):
         """Left, top, width and height on the screen."""

@@ -1,5 +1,7 @@
 #include "platform/ui/accessible.h"
 
+#include <array>
+
 #include <gtk/gtk.h>
 #include <wx/combo.h>
 #include <wx/textctrl.h>
@@ -25,11 +27,35 @@ GtkWidget* Operated(GtkWidget* widget) {
     return widget;
 }
 
+struct OwnRole {
+    const char* kind;
+    AtkRole role;
+};
+
+// What the toolkit draws by itself, or makes of plain windows, the bus takes for a panel or a
+// frame.
+constexpr std::array<OwnRole, 4> kOwnRoles{{
+    {"wxDialog", ATK_ROLE_DIALOG},
+    {"wxComboCtrl", ATK_ROLE_COMBO_BOX},
+    {"wxTreeCtrl", ATK_ROLE_TREE},
+    {"wxHtmlWindow", ATK_ROLE_DOCUMENT_TEXT},
+}};
+
+void TellRole(const wxWindow& control, GtkWidget& widget) {
+    for (const OwnRole& own : kOwnRoles) {
+        const wxClassInfo* const kind = wxClassInfo::FindClass(own.kind);
+        if (kind != nullptr && control.IsKindOf(kind)) {
+            atk_object_set_role(gtk_widget_get_accessible(&widget), own.role);
+        }
+    }
+}
+
 } // namespace
 
 void SetAccessible(wxWindow& control, const wxString& id, const wxString& name) {
     GtkWidget* const widget = Operated(control.GetHandle());
     Describe(widget, id, name);
+    TellRole(control, *widget);
     if (GTK_IS_COMBO_BOX(widget) && gtk_combo_box_get_has_entry(GTK_COMBO_BOX(widget))) {
         Describe(gtk_bin_get_child(GTK_BIN(widget)), id, name);
     }

@@ -116,6 +116,14 @@ NativeTree::NativeTree(wxWindow* parent, const wxString& name, const wxString& l
             state_->SendClick(key);
         }
     });
+    // A screen reader's way to choose a node. What the node brings up may be a dialog, which must
+    // not begin inside the screen reader's call: no other would be answered until it ends.
+    state_->control->Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, [this](wxDataViewEvent& event) {
+        const std::string key = state_->Key(event.GetItem());
+        if (key != SelectedKey()) {
+            state_->control->CallAfter([this, key] { Click(key); });
+        }
+    });
     state_->control->Bind(wxEVT_DATAVIEW_ITEM_START_EDITING,
                           [](wxDataViewEvent& event) { event.Veto(); });
     GtkWidget* const view = state_->control->GtkGetTreeView();

@@ -3,6 +3,8 @@
 
 #include "tests/support/window/window_test.h"
 
+#include <gtk/gtk.h>
+#include <wx/dataview.h>
 #include <wx/frame.h>
 #include <wx/sizer.h>
 #include <wx/uiaction.h>
@@ -93,6 +95,20 @@ TEST_F(NativeTreeKeys, GoOnFromTheNodeThatTheProgramSelected) {
     Press(WXK_UP);
     EXPECT_TRUE(WaitFor([this] { return tree->SelectedKey() == "B1"; }, "the node above"));
     EXPECT_EQ(clicks, (std::vector<std::string>{"B1", "B1"}));
+}
+
+TEST_F(NativeTreeKeys, ANodeThatAScreenReaderActivatesIsChosen) {
+    auto* const view =
+        GTK_TREE_VIEW(dynamic_cast<wxDataViewTreeCtrl*>(tree->Control())->GtkGetTreeView());
+    GtkTreePath* const first = gtk_tree_path_new_first();
+    gtk_tree_view_row_activated(view, first, gtk_tree_view_get_column(view, 0));
+    EXPECT_EQ(clicks, std::vector<std::string>{}) << "within the screen reader's call";
+    EXPECT_TRUE(WaitFor([this] { return tree->SelectedKey() == "A"; }, "the node"));
+    EXPECT_EQ(clicks, std::vector<std::string>{"A"});
+    gtk_tree_view_row_activated(view, first, gtk_tree_view_get_column(view, 0));
+    Pump();
+    EXPECT_EQ(clicks, std::vector<std::string>{"A"}) << "a double click has chosen it already";
+    gtk_tree_path_free(first);
 }
 
 TEST_F(NativeTreeKeys, NewNodesAreSelectedByNobody) {
