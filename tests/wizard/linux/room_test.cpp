@@ -35,6 +35,12 @@ private:
     int before_ = 0;
 };
 
+int HeightOf(const wxWindow& control) {
+    int least = 0;
+    gtk_widget_get_preferred_height(control.GetHandle(), &least, nullptr);
+    return least;
+}
+
 // The height of a field's letters and of its border.
 int LeastOfField(const wxWindow& control) {
     constexpr int kBorder = 4;
@@ -61,11 +67,9 @@ protected:
         int least = 0;
         int natural = 0;
         gtk_widget_get_preferred_width(control.GetHandle(), &least, &natural);
-        int leastHeight = 0;
-        gtk_widget_get_preferred_height(control.GetHandle(), &leastHeight, nullptr);
         EXPECT_GE(place.width, words && !wraps ? natural : 20) << control.GetName();
         if (words) {
-            EXPECT_GE(place.height, leastHeight) << control.GetName();
+            EXPECT_GE(place.height, HeightOf(control)) << control.GetName();
         }
         // The toolkit has made its text boxes lower than the system's: their letters must fit.
         EXPECT_GE(place.height, LeastOfField(control)) << control.GetName();
@@ -84,9 +88,11 @@ protected:
     void ExpectRoomOnAllPages() {
         for (int position = 0; position < modWizard::kPageCount; ++position) {
             GoTo(position);
-            Pump();
-            const wxWindow* const page = window->sstWizard->GetCurrentPage();
+            const editors::Page* const page = window->pages.at(static_cast<std::size_t>(position));
             SCOPED_TRACE("page " + std::to_string(position));
+            // The system hands out the places some time after the page is shown, all in one go.
+            WaitFor([page] { return page->lblGeneral->GetSize().y >= HeightOf(*page->lblGeneral); },
+                    "the page to be laid out");
             std::vector<wxWindow*> shown;
             for (wxWindow* control : page->GetChildren()) {
                 if (control->IsShown()) {
