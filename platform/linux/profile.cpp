@@ -32,6 +32,9 @@ int Load(const std::string& path, std::string& bytes) {
     if (const int error = OpenRegularFile(path, file, status); error != 0) {
         return error;
     }
+    if (static_cast<std::size_t>(status.st_size) > kLargestFile) {
+        return EFBIG;
+    }
     // A file that grows meanwhile, or one whose size the system does not tell, takes more rounds.
     constexpr std::size_t kMore = 16 * 1024;
     for (std::size_t had = 0;;) {

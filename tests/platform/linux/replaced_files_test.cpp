@@ -176,6 +176,10 @@ TEST_F(ReplacedFiles, AFileBeyondAllReasonIsNotLoaded) {
     EXPECT_EQ(platform::profile::Reader(path).Read("a", "k", 10).error, EFBIG);
     EXPECT_EQ(Set(path), EFBIG);
     EXPECT_EQ(fs::file_size(path), 20'000'000u);
+    // Nor is memory made ready for as much as a file with holes claims to hold.
+    fs::resize_file(path, std::uintmax_t{1} << 42);
+    EXPECT_EQ(platform::profile::Reader(path).Read("a", "k", 10).error, EFBIG);
+    EXPECT_EQ(Set(path), EFBIG);
 }
 
 TEST_F(ReplacedFiles, AFileOfAVirtualFileSystemIsCopiedWhole) {
