@@ -130,7 +130,11 @@ int LeaveChecks::FilterEvent(wxEvent& event) {
     }
     if (pending_ != nullptr && IsAction(event.GetEventType()) &&
         (control == nullptr || wxGetTopLevelParent(control) == &window_)) {
-        return RunPending() ? Event_Skip : Event_Processed;
+        if (RunPending()) {
+            return Event_Skip;
+        }
+        refusedControl_ = control;
+        return Event_Processed;
     }
     return Event_Skip;
 }

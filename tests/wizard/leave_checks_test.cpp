@@ -125,6 +125,19 @@ TEST_F(Leaving, AFolderForTheTreeWarns) {
     WaitFor([this] { return CurrentPage() == 2; }, "the Servers page");
 }
 
+TEST_F(Leaving, AFolderThatTheTreeOnlyShowsIsNotLeft) {
+    PutText(window, "txtNetworkSharePath", kMissing);
+    GoTo(0);
+    FocusOn(Find(window, "cmdNext(0)"));
+    const ModalScript noDialogs;
+    const wxRect node = window->tvwWizardOptions->ScreenRect("Key6");
+    ClickAt(window->tvwWizardOptions->Control(),
+            {node.x + node.width / 2, node.y + node.height / 2});
+    WaitFor([this] { return CurrentPage() == 14; }, "the Deployment page");
+    Settle();
+    EXPECT_TRUE(HasFocus(window->tvwWizardOptions->Control()));
+}
+
 TEST_F(Leaving, ATrailingBackslashGoesAndMarksTheDocument) {
     const test::TemporaryFolder folder;
     struct Row {

@@ -68,7 +68,11 @@ public:
 
 // The toolkit tells of a selection that changes and of nothing else; a click on the node that is
 // selected already is a choice as well, so the button itself is watched.
-template <class State> gboolean OnPress(GtkWidget* /*view*/, GdkEventButton* event, State* state) {
+//
+// The toolkit selects the node first and takes the focus then. It must be the other way round: what
+// the choice shows would have the focus for a moment, and lose it as if the user had left it.
+template <class State> gboolean OnPress(GtkWidget* view, GdkEventButton* event, State* state) {
+    gtk_widget_grab_focus(view);
     state->changedSincePress = false;
     const std::string key = event->button == 1 ? state->KeyAt(event->x, event->y) : std::string();
     const bool selected = !key.empty() && state->control->GetSelection() == state->Item(key);
