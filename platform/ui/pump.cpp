@@ -2,6 +2,8 @@
 
 #include <chrono>
 
+#include <wx/event.h>
+#include <wx/eventfilter.h>
 #include <wx/evtloop.h>
 
 namespace platform::ui {
@@ -15,6 +17,20 @@ constexpr std::chrono::milliseconds kLook{1}; // a look at the queue costs a cal
 
 Clock::time_point g_lastPump;
 Clock::time_point g_lastLook;
+
+/// The close box counts among what is drawn, not as the user's input: without this a window could
+/// go while a function of its own waits for the network.
+class NoClosing : public wxEventFilter {
+public:
+    NoClosing() { wxEvtHandler::AddFilter(this); }
+    ~NoClosing() override { wxEvtHandler::RemoveFilter(this); }
+    NoClosing(const NoClosing&) = delete;
+    NoClosing& operator=(const NoClosing&) = delete;
+
+    int FilterEvent(wxEvent& event) override {
+        return event.GetEventType() == wxEVT_CLOSE_WINDOW ? Event_Processed : Event_Skip;
+    }
+};
 
 } // namespace
 
@@ -43,6 +59,7 @@ void PumpWhenDue() {
 
 bool PumpPainting() {
     if (wxEventLoopBase* const loop = wxEventLoopBase::GetActive(); loop != nullptr) {
+        const NoClosing open;
         loop->YieldFor(wxEVT_CATEGORY_UI);
     }
     return true;

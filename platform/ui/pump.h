@@ -14,8 +14,8 @@ bool PumpIsDue();
 /// Pumps events when that is due.
 void PumpWhenDue();
 
-/// Lets the windows be drawn; what the user types or clicks waits. Does nothing without a running
-/// event loop. Always true, as whoever asks whether to wait on wants it.
+/// Lets the windows be drawn; what the user types or clicks waits, and no window is closed. Does
+/// nothing without a running event loop. Always true, as whoever asks whether to wait on wants it.
 bool PumpPainting();
 
 } // namespace platform::ui
