@@ -87,6 +87,13 @@ NetworkFolderDialog::NetworkFolderDialog(wxWindow* owner, NetworkLister lister)
     tvwNetwork->Bind(wxEVT_DATAVIEW_ITEM_EXPANDING, &NetworkFolderDialog::OnExpanding, this);
     tvwNetwork->Bind(wxEVT_DATAVIEW_ITEM_START_EDITING,
                      [](wxDataViewEvent& event) { event.Veto(); });
+    tvwNetwork->Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, [this](wxDataViewEvent& event) {
+        if (tvwNetwork->IsExpanded(event.GetItem())) {
+            tvwNetwork->Collapse(event.GetItem());
+        } else {
+            tvwNetwork->Expand(event.GetItem());
+        }
+    });
     tvwNetwork->Bind(wxEVT_DATAVIEW_SELECTION_CHANGED,
                      [this](wxDataViewEvent&) { cmdOK->Enable(!Picked().empty()); });
     Bind(wxEVT_BUTTON, [this](wxCommandEvent& event) {

@@ -117,6 +117,26 @@ TEST_F(NetworkFolders, WhatCannotBeOpenedSaysWhyAndCanBePickedAllTheSame) {
               R"(\\NT1\Zone)");
 }
 
+TEST_F(NetworkFolders, ADoubleClickOpensAndReturnClosesAgain) {
+    EXPECT_EQ(Run([this](NetworkFolderDialog& dialog) {
+                  ShowComputer(dialog, "NT1");
+                  auto& tree = *dialog.tvwNetwork;
+                  const wxDataViewItem share =
+                      tree.GetNthChild(wxDataViewItem(tree.GetSelection()), 0);
+                  const wxRect row = tree.GetItemRect(share, tree.GetColumn(0));
+                  DoubleClickAt(
+                      &tree, tree.ClientToScreen(row.GetPosition() + wxPoint(30, row.height / 2)));
+                  WaitFor([this] { return network.asked.size() == 2; }, "a question");
+                  WaitFor([&] { return tree.IsEnabled(); }, "an answer");
+                  EXPECT_TRUE(tree.IsExpanded(share));
+                  EXPECT_TRUE(HasFocus(&tree));
+                  Press(WXK_RETURN);
+                  WaitFor([&] { return !tree.IsExpanded(share); }, "the share to close");
+                  Push(&dialog, "cmdOK");
+              }),
+              R"(\\NT1\Tools & more)");
+}
+
 TEST_F(NetworkFolders, AComputerThatDoesNotAnswerCanBeLeft) {
     network.silent = true;
     EXPECT_EQ(Run([](NetworkFolderDialog& dialog) {
