@@ -51,7 +51,7 @@ frmAbout::frmAbout(wxWindow* owner, const ProductVersion& version)
     auto* const frame = new wxBoxSizer(wxVERTICAL);
     frame->Add(rows, wxSizerFlags(1).Expand().Border(wxALL, border));
     // The caption is wider than all else, and is cut where it finds no room beside its buttons.
-    constexpr int kBesideCaption = 110;
+    constexpr int kBesideCaption = 190;
     frame->SetMinSize(GetTextExtent(GetTitle()).x + FromDIP(kBesideCaption), -1);
     SetSizerAndFit(frame);
     CentreOnParent();
