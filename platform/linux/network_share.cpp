@@ -43,13 +43,16 @@ int StatusOf(const std::string& url, bool folder) {
     return error == 0 && S_ISDIR(status.st_mode) != folder ? ENOENT : error;
 }
 
-int CopyBytes(int from, smb::Writer& to) {
+/// A source that shrinks meanwhile to less than `size` is an error: half a file must not take the
+/// place of a whole one.
+int CopyBytes(int from, off_t size, smb::Writer& to) {
     std::string buffer;
+    off_t copied = 0;
     for (;;) {
         buffer.resize(to.PieceSize());
         const ssize_t length = read(from, buffer.data(), buffer.size());
         if (length == 0) {
-            return 0;
+            return copied < size ? EIO : 0;
         }
         if (length < 0 && errno == EINTR) {
             continue;
@@ -61,6 +64,7 @@ int CopyBytes(int from, smb::Writer& to) {
         if (error != 0) {
             return error;
         }
+        copied += length;
     }
 }
 
@@ -73,7 +77,7 @@ int Copy(const std::string& sourcePath, const NetworkPath& folder, const std::st
     }
     const auto fill = [&](int descriptor) {
         smb::Writer writer(descriptor, progress);
-        return CopyBytes(source.Get(), writer);
+        return CopyBytes(source.Get(), status.st_size, writer);
     };
     return smb::Replace(folder, name, fill, &status);
 }

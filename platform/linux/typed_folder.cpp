@@ -100,6 +100,11 @@ int CopyFileTo(const std::string& sourcePath, const std::string& targetPath) {
     if (const int error = CopyBytes(source.Get(), target); error != 0) {
         return error;
     }
+    // A source that shrank meanwhile would put half a file in the place of a whole one.
+    struct stat copied {};
+    if (fstat(target.Descriptor(), &copied) != 0 || copied.st_size < from.st_size) {
+        return EIO;
+    }
     // A copy is as old as what it was made from; a file system that cannot say so does no harm.
     const std::array<timespec, 2> times = {from.st_atim, from.st_mtim};
     static_cast<void>(futimens(target.Descriptor(), times.data()));

@@ -27,6 +27,13 @@ bool Wait() {
 class NetworkShares : public testing::Test {
 protected:
     NetworkShares() { test::WriteBytes(source_, "new"); }
+    void SetUp() override {
+        // The server may still be coming to itself after what an earlier test did to it.
+        for (int attempt = 0; attempt < 100 && !deploy_.Exists(); ++attempt) {
+            usleep(200'000);
+        }
+        ASSERT_TRUE(deploy_.Exists());
+    }
     ~NetworkShares() override { EmptyShares(); }
 
     test::TemporaryFolder folder_;
@@ -176,6 +183,19 @@ TEST_F(NetworkShares, AServerThatFallsSilentEndsTheCopyInTheEnd) {
     Control("thaw");
     EXPECT_EQ(test::ReadBytes(SharePath("deploy/file")), "old");
     EXPECT_TRUE(deploy_.Exists());
+}
+
+TEST_F(NetworkShares, ASourceThatShrinksInTheMiddleLeavesTheOldFile) {
+    test::WriteBytes(SharePath("deploy/file"), "old");
+    fs::resize_file(source_, 600'000'000);
+    MidCopy act("deploy", [this] { fs::resize_file(source_, 1000); });
+    EXPECT_EQ(TypedFolder(Share("deploy"), [&act] { return act.Look(); })
+                  .CopyInto(source_, "file")
+                  .number,
+              EIO);
+    EXPECT_TRUE(act.Done());
+    EXPECT_EQ(test::ReadBytes(SharePath("deploy/file")), "old");
+    EXPECT_EQ(EntryCount("deploy"), 1);
 }
 
 TEST_F(NetworkShares, ACopyThatIsAbandonedLeavesTheOldFile) {
