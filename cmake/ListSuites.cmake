@@ -1,5 +1,5 @@
 # Run after the link of a test binary: asks BINARY (through LAUNCHER) for its tests and writes
-# OUTPUT, which adds one CTest entry "PREFIX.<suite>" for each suite. See Suites.cmake.
+# OUTPUT, which adds one CTest entry "PREFIX.<suite>SUFFIX" for each suite. See Suites.cmake.
 
 file(REMOVE "${OUTPUT}")
 foreach(setting IN LISTS ENVIRONMENT)
@@ -38,15 +38,16 @@ list(REMOVE_DUPLICATES suites)
 
 set(text "")
 foreach(suite IN LISTS suites)
-    set(name "${PREFIX}.${suite}")
+    set(name "${PREFIX}.${suite}${SUFFIX}")
     set(properties "TIMEOUT 300 WORKING_DIRECTORY [==[${FOLDER}]==]")
     if(PREFIX STREQUAL "window")
         # One screen, one focus, and nothing beside it that takes its time.
         string(APPEND properties " RESOURCE_LOCK display PROCESSORS 64")
     endif()
-    # What each test said is kept, so that the results of a whole run can be put together.
+    # What each test said is kept, so that the results of a whole run can be put together. Under
+    # Wine the framework takes a path with no drive for one below the current folder.
     string(MAKE_C_IDENTIFIER "${name}" identifier)
-    set(environment ${ENVIRONMENT} "GTEST_OUTPUT=json:${FOLDER}/results/${identifier}.json"
+    set(environment ${ENVIRONMENT} "GTEST_OUTPUT=json:results/${identifier}.json"
         "QUEUESHIFT_REPORT=${FOLDER}/results")
     string(APPEND properties " ENVIRONMENT [==[${environment}]==]")
     set(command "")

@@ -9,7 +9,9 @@ function(qs_add_suites target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "PREFIX" "")
     set(suites "${CMAKE_CURRENT_BINARY_DIR}/${target}-suites.cmake")
     set(environment "")
+    set(suffix "")
     if(QUEUESHIFT_SANITIZE)
+        set(suffix ".asan")
         set(suppressions "${PROJECT_SOURCE_DIR}/cmake/sanitizers")
         list(APPEND environment
             "ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1"
@@ -17,6 +19,7 @@ function(qs_add_suites target)
             "UBSAN_OPTIONS=print_stacktrace=1:suppressions=${suppressions}/undefined.txt")
     endif()
     if(CMAKE_CROSSCOMPILING_EMULATOR)
+        set(suffix ".windows")
         set(launcher "${CMAKE_CROSSCOMPILING_EMULATOR}")
     else()
         set(launcher "${PROJECT_SOURCE_DIR}/script/lib/with-display")
@@ -26,6 +29,7 @@ function(qs_add_suites target)
             "-DBINARY=$<TARGET_FILE:${target}>"
             "-DLAUNCHER=${launcher}"
             "-DPREFIX=${arg_PREFIX}"
+            "-DSUFFIX=${suffix}"
             "-DENVIRONMENT=${environment}"
             "-DFOLDER=${CMAKE_CURRENT_BINARY_DIR}"
             "-DOUTPUT=${suites}"
@@ -37,6 +41,6 @@ function(qs_add_suites target)
     # Until the binary is built the entry that stands for it fails.
     set(gate "${CMAKE_CURRENT_BINARY_DIR}/${target}-gate.cmake")
     file(WRITE "${gate}" "if(EXISTS \"${suites}\")\n    include(\"${suites}\")\nelse()\n"
-        "    add_test(\"${arg_PREFIX}.NOT_BUILT\" \"${CMAKE_COMMAND}\" -E false)\nendif()\n")
+        "    add_test(\"${arg_PREFIX}.NOT_BUILT${suffix}\" \"${CMAKE_COMMAND}\" -E false)\nendif()\n")
     set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${gate}")
 endfunction()

@@ -29,6 +29,8 @@ Page::Page(wxWindow* parent, int position, const wxString& title)
     wxFont font = lblGeneral->GetFont().Scaled(1.3F);
     font.MakeBold();
     lblGeneral->SetFont(font);
+    // A label may tell the size of its former font until the system has styled it anew.
+    lblGeneral->SetMinSize(wxSize(-1, lblGeneral->GetCharHeight()));
     auto* const separator = new wxStaticLine(this);
     NameControl(*separator, Indexed("fraSeperator", position));
     const int gap = FromDIP(kGap);

@@ -53,7 +53,7 @@ frmWizard::frmWizard()
     splitter->SetMinimumPaneSize(FromDIP(150));
     splitter->SetSashGravity(0.0);
 
-    SetMinClientSize(ForFont(*this, {770, 480}));
+    SetMinClientSize(ForFont(*this, {770, 505}));
     SetClientSize(ForFont(*this, {880, 600}));
     Centre();
     Bind(wxEVT_CLOSE_WINDOW, &frmWizard::Form_Unload, this);

@@ -1,9 +1,6 @@
 // Whether every control has the room that it needs, also in a larger font.
 #include "tests/wizard/wizard_test.h"
 
-#include <algorithm>
-#include <chrono>
-
 #include <gtk/gtk.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
@@ -78,13 +75,6 @@ protected:
         EXPECT_GE(place.height, LeastOfField(control)) << control.GetName();
     }
 
-    static bool HasRoomForWords(const editors::Page& page) {
-        return std::ranges::all_of(page.GetChildren(), [](const wxWindow* control) {
-            return !control->IsShown() || dynamic_cast<const wxStaticText*>(control) == nullptr ||
-                   control->GetSize().y >= HeightOf(*control);
-        });
-    }
-
     // No two controls of a page stand on one another.
     static void ExpectApart(const std::vector<wxWindow*>& controls) {
         for (const wxWindow* one : controls) {
@@ -98,19 +88,11 @@ protected:
     void ExpectRoomOnAllPages() {
         for (int position = 0; position < modWizard::kPageCount; ++position) {
             GoTo(position);
-            editors::Page* const page = window->pages.at(static_cast<std::size_t>(position));
+            const editors::Page* const page = window->pages.at(static_cast<std::size_t>(position));
             SCOPED_TRACE("page " + std::to_string(position));
-            // The system hands out the places some time after the page is shown. Now and then a
-            // label has learnt of its font only after that, and keeps its place until the next
-            // layout, as any change of the window's size brings one.
-            const auto settled = [page] { return HasRoomForWords(*page); };
-            if (!ComesTrue(settled, std::chrono::seconds(2))) {
-                for (wxWindow* control : page->GetChildren()) {
-                    control->InvalidateBestSize();
-                }
-                page->Layout();
-                WaitFor(settled, "the page to be laid out");
-            }
+            // The system hands out the places some time after the page is shown, all in one go.
+            WaitFor([page] { return page->lblGeneral->GetSize().y >= HeightOf(*page->lblGeneral); },
+                    "the page to be laid out");
             std::vector<wxWindow*> shown;
             for (wxWindow* control : page->GetChildren()) {
                 if (control->IsShown()) {
