@@ -53,9 +53,12 @@ else()
     target_link_directories(qs::wx INTERFACE ${wxWidgets_LIBRARY_DIRS})
     target_link_libraries(qs::wx INTERFACE ${wxWidgets_LIBRARIES})
 
-    # LDAP, Kerberos, winbind and the SMB client: what the directory and UNC paths stand on.
+    # LDAP, Kerberos, winbind and the SMB client: what the directory and UNC paths stand on. The
+    # last one is loaded by the program itself, when it meets a share.
     pkg_check_modules(LDAP REQUIRED IMPORTED_TARGET ldap lber)
-    pkg_check_modules(SMB REQUIRED IMPORTED_TARGET smbclient wbclient)
-    target_link_libraries(qs::system INTERFACE PkgConfig::LDAP PkgConfig::SMB
-        gssapi_krb5 krb5 resolv)
+    pkg_check_modules(WINBIND REQUIRED IMPORTED_TARGET wbclient)
+    pkg_check_modules(SMB REQUIRED IMPORTED_TARGET smbclient)
+    target_include_directories(qs::system SYSTEM INTERFACE ${SMB_INCLUDE_DIRS})
+    target_link_libraries(qs::system INTERFACE PkgConfig::LDAP PkgConfig::WINBIND
+        gssapi_krb5 krb5 resolv ${CMAKE_DL_LIBS})
 endif()

@@ -30,6 +30,7 @@ int NumberIn(const std::optional<std::string>& result) {
 
 /// Makes `look`, which returns 0 or errno, in a child.
 int Look(const std::function<int()>& look, const KeepWaiting& keepWaiting) {
+    smb::Load();
     const auto work = [&look] {
         const int error = smb::Begin();
         return std::to_string(error != 0 ? error : look());
@@ -91,9 +92,10 @@ SystemError Put(const NetworkPath& folder, const std::string& name,
     if (!IsNetworkFileName(name)) {
         return SystemErrorFromNumber(EINVAL);
     }
-    const auto work = [&put](const Progress& progress) {
+    smb::Load();
+    const auto work = [&](const Progress& progress) {
         const int error = smb::Begin();
-        return std::to_string(error != 0 ? error : put(progress));
+        return std::to_string(error != 0 ? error : smb::Explained(put(progress), folder.server));
     };
     return SystemErrorFromNumber(NumberIn(ResultOfLongChild(work, kSilence, keepWaiting)));
 }
@@ -108,7 +110,8 @@ std::string ListingText(const NetworkPath& path) {
     std::vector<std::string> names;
     int error = smb::Begin();
     if (error == 0) {
-        error = smb::List(UrlOf(path), computer ? SMBC_FILE_SHARE : SMBC_DIR, names);
+        error = smb::Explained(smb::List(UrlOf(path), computer ? SMBC_FILE_SHARE : SMBC_DIR, names),
+                               path.server);
     }
     if (computer) {
         std::erase_if(names, [](const std::string& name) { return name.ends_with('$'); });
@@ -164,6 +167,7 @@ SystemError WriteToNetwork(std::string_view bytes, const NetworkPath& folder,
 }
 
 NetworkListing ListNetwork(const NetworkPath& path, const KeepWaiting& keepWaiting) {
+    smb::Load();
     const auto result = ResultOfChild([&path] { return ListingText(path); },
                                       steady_clock::now() + kLookLimit, keepWaiting);
     NetworkListing listing{SystemErrorFromNumber(NumberIn(result)), {}};

@@ -1,13 +1,17 @@
 #include "platform/linux/smb_session.h"
 
+#include "platform/linux/smb_library.h"
 #include "platform/linux/smb_rename.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
+#include <sstream>
 
 #include <fcntl.h>
-#include <libsmbclient.h>
+#include <netdb.h>
 #include <unistd.h>
 
 namespace platform::smb {
@@ -33,10 +37,10 @@ int Result(bool done) {
 /// Whether the file could be written, asked without touching it. `exists` tells whether there is
 /// one.
 int WriteObstacle(const std::string& url, bool& exists) {
-    const int file = smbc_open(url.c_str(), O_WRONLY, 0);
+    const int file = GetLibrary().Open(url.c_str(), O_WRONLY, 0);
     exists = file >= 0;
     if (exists) {
-        return Result(smbc_close(file) == 0);
+        return Result(GetLibrary().Close(file) == 0);
     }
     return errno == ENOENT ? 0 : errno;
 }
@@ -45,7 +49,8 @@ int CreateBeside(const NetworkPath& folder, std::string& name) {
     const std::string stem = ".queueshift-" + std::to_string(getppid()) + '-';
     for (int attempt = 0; attempt < 1000; ++attempt) {
         name = stem + std::to_string(attempt);
-        const int file = smbc_open(UrlOf(folder, name).c_str(), O_WRONLY | O_CREAT | O_EXCL, 0666);
+        const int file =
+            GetLibrary().Open(UrlOf(folder, name).c_str(), O_WRONLY | O_CREAT | O_EXCL, 0666);
         if (file >= 0 || errno != EEXIST) {
             return file;
         }
@@ -59,31 +64,91 @@ void SetTimes(const std::string& url, const struct stat& times) {
     values[0].tv_sec = times.st_atim.tv_sec;
     values[1].tv_sec = times.st_mtim.tv_sec;
     values[1].tv_usec = times.st_mtim.tv_nsec / 1000;
-    static_cast<void>(smbc_utimes(url.c_str(), values.data()));
+    static_cast<void>(GetLibrary().SetTimes(url.c_str(), values.data()));
+}
+
+constexpr const char* kRights = "system.nt_sec_desc.*";
+
+/// Who may do what with the file: the entries of its list, sorted. None where the server keeps
+/// none.
+std::vector<std::string> RightsOf(const std::string& url) {
+    std::string text(65536, '\0'); // as much as the protocol carries
+    if (GetLibrary().GetAttribute(url.c_str(), kRights, text.data(), text.size() - 1) < 0) {
+        return {};
+    }
+    std::vector<std::string> rights;
+    std::istringstream parts(text.c_str());
+    for (std::string part; std::getline(parts, part, ',');) {
+        const auto mask = part.rfind('/') + 1;
+        if (part.starts_with("ACL:") && mask != 0) {
+            // The library writes the mask as a hexadecimal number, and reads a decimal one.
+            const auto bits = std::strtoul(part.c_str() + mask, nullptr, 16);
+            rights.push_back(part.substr(0, mask) + std::to_string(bits));
+        }
+    }
+    std::ranges::sort(rights);
+    return rights;
+}
+
+/// Gives the new file the rights of the old one, where they are not those of its folder anyway. A
+/// server that lets nobody set them leaves the new file with its folder's, as it does any other.
+void TakeOverRights(const std::string& from, const std::string& to) {
+    const auto rights = RightsOf(from);
+    if (rights.empty() || rights == RightsOf(to)) {
+        return;
+    }
+    std::string text = "REVISION:1";
+    for (const auto& entry : rights) {
+        text += ',' + entry;
+    }
+    static_cast<void>(GetLibrary().SetAttribute(to.c_str(), kRights, text.c_str(), text.size(), 0));
 }
 
 } // namespace
 
+void Load() {
+    GetLibrary();
+}
+
 int Begin() {
-    SMBCCTX* const context = smbc_new_context();
+    const Library& library = GetLibrary();
+    if (!library.complete) {
+        return ENOPKG;
+    }
+    SMBCCTX* const context = library.NewContext();
     if (context == nullptr) {
         return errno;
     }
-    smbc_setDebug(context, 0);
-    smbc_setLogCallback(context, nullptr, DropLog);
-    smbc_setTimeout(context, kRequestLimit);
-    smbc_setOptionUseKerberos(context, 1);
-    smbc_setOptionFallbackAfterKerberos(context, 1);
-    smbc_setFunctionAuthData(context, NameGuest);
-    if (smbc_init_context(context) == nullptr) {
+    library.SetDebug(context, 0);
+    library.SetLogCallback(context, nullptr, DropLog);
+    library.SetTimeout(context, kRequestLimit);
+    library.SetOptionUseKerberos(context, 1);
+    library.SetOptionFallbackAfterKerberos(context, 1);
+    library.SetFunctionAuthData(context, NameGuest);
+    if (library.InitContext(context) == nullptr) {
         return errno;
     }
-    smbc_set_context(context);
+    library.SetContext(context);
     return 0;
 }
 
+int Explained(int error, const std::string& server) {
+    if (error == ECONNABORTED) {
+        return ECONNRESET;
+    }
+    addrinfo* addresses = nullptr;
+    if ((error != EINVAL && error != ECONNREFUSED) ||
+        getaddrinfo(server.c_str(), nullptr, nullptr, &addresses) != EAI_NONAME) {
+        if (addresses != nullptr) {
+            freeaddrinfo(addresses);
+        }
+        return error;
+    }
+    return ENONET;
+}
+
 int Stat(const std::string& url, struct stat& status) {
-    return Result(smbc_stat(url.c_str(), &status) == 0);
+    return Result(GetLibrary().Stat(url.c_str(), &status) == 0);
 }
 
 int Replace(const NetworkPath& folder, const std::string& name, const Fill& fill,
@@ -101,18 +166,21 @@ int Replace(const NetworkPath& folder, const std::string& name, const Fill& fill
     }
     const std::string temporary = UrlOf(folder, temporaryName);
     int error = fill(file);
-    if (smbc_close(file) != 0 && error == 0) {
+    if (GetLibrary().Close(file) != 0 && error == 0) {
         error = errno;
+    }
+    if (error == 0 && exists) {
+        TakeOverRights(target, temporary);
     }
     if (error == 0 && times != nullptr) {
         SetTimes(temporary, *times);
     }
     if (error == 0) {
         error = exists ? RenameOver(folder, temporaryName, name)
-                       : Result(smbc_rename(temporary.c_str(), target.c_str()) == 0);
+                       : Result(GetLibrary().Rename(temporary.c_str(), target.c_str()) == 0);
     }
     if (error != 0) {
-        smbc_unlink(temporary.c_str());
+        GetLibrary().Unlink(temporary.c_str());
     }
     return error;
 }
@@ -122,7 +190,7 @@ int Writer::Write(std::string_view bytes) {
     constexpr std::size_t kMost = std::size_t{64} << 20;
     const auto start = Clock::now();
     while (!bytes.empty()) {
-        const ssize_t written = smbc_write(descriptor_, bytes.data(), bytes.size());
+        const ssize_t written = GetLibrary().Write(descriptor_, bytes.data(), bytes.size());
         if (written < 0) {
             return errno;
         }
@@ -136,18 +204,18 @@ int Writer::Write(std::string_view bytes) {
 }
 
 int List(const std::string& url, unsigned type, std::vector<std::string>& names) {
-    const int folder = smbc_opendir(url.c_str());
+    const int folder = GetLibrary().OpenFolder(url.c_str());
     if (folder < 0) {
         return errno;
     }
     errno = 0;
-    while (const smbc_dirent* entry = smbc_readdir(static_cast<unsigned>(folder))) {
+    while (const smbc_dirent* entry = GetLibrary().ReadFolder(static_cast<unsigned>(folder))) {
         const std::string name(entry->name);
         if (entry->smbc_type == type && name != "." && name != "..") {
             names.push_back(name);
         }
     }
-    smbc_closedir(folder);
+    GetLibrary().CloseFolder(folder);
     return 0;
 }
 

@@ -14,8 +14,16 @@
 
 namespace platform::smb {
 
-/// Makes the library ready: the current user's Kerberos credentials, else a guest.
+/// Loads the library, in the parent of the processes that use it: once for all of them.
+void Load();
+
+/// Makes the library ready: the current user's Kerberos credentials, else a guest. ENOPKG without
+/// the library.
 int Begin();
+
+/// What to tell the user for `error`: the library calls a computer that nobody knows an invalid
+/// argument, and a server that went away an abort of ours.
+int Explained(int error, const std::string& server);
 
 int Stat(const std::string& url, struct stat& status);
 
@@ -23,7 +31,8 @@ int Stat(const std::string& url, struct stat& status);
 using Fill = std::function<int(int descriptor)>;
 
 /// Puts a new file, written beside it by `fill`, in the place of `name` in one step of the
-/// server's. The file gets the times of `times`, when there are any.
+/// server's. The file gets the times of `times`, when there are any, and the rights of the
+/// one it replaces.
 int Replace(const NetworkPath& folder, const std::string& name, const Fill& fill,
             const struct stat* times);
 

@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <sstream>
 
 #include <gmock/gmock.h>
 #include <unistd.h>
@@ -18,10 +19,26 @@ using platform::NetworkListing;
 using platform::ParseNetworkPath;
 using platform::TypedFolder;
 using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+using testing::UnorderedElementsAreArray;
 namespace fs = std::filesystem;
+
+constexpr const char* kRights = "system.nt_sec_desc.*";
 
 bool Wait() {
     return true;
+}
+
+/// Who may do what with the file of the share "deploy".
+std::vector<std::string> Rights(const std::string& name) {
+    std::vector<std::string> rights;
+    std::istringstream parts(Attribute("deploy", name, kRights));
+    for (std::string part; std::getline(parts, part, ',');) {
+        if (part.starts_with("ACL:")) {
+            rights.push_back(part);
+        }
+    }
+    return rights;
 }
 
 class NetworkShares : public testing::Test {
@@ -98,6 +115,31 @@ TEST_F(NetworkShares, AReadOnlyTargetStaysAsItIs) {
     EXPECT_EQ(deploy_.WriteInto("file", "new").number, EACCES);
     EXPECT_EQ(test::ReadBytes(SharePath("deploy/file")), "old");
     EXPECT_EQ(EntryCount("deploy"), 1);
+}
+
+TEST_F(NetworkShares, AReplacedFileKeepsItsRights) {
+    EXPECT_FALSE(deploy_.WriteInto("file", "old"));
+    const auto usual = Rights("file");
+    // Everybody may do everything, guests may not read it.
+    SetAttribute("deploy", "file", kRights,
+                 "REVISION:1,ACL:S-1-1-0:0/0/2032127,ACL:S-1-5-32-546:1/0/1179785");
+    ASSERT_THAT(Rights("file"), UnorderedElementsAre("ACL:S-1-1-0:0/0/0x001f01ff",
+                                                     "ACL:S-1-5-32-546:1/0/0x00120089"));
+    const auto rights = Rights("file");
+    EXPECT_FALSE(deploy_.CopyInto(source_, "file"));
+    EXPECT_EQ(test::ReadBytes(SharePath("deploy/file")), "new");
+    EXPECT_THAT(Rights("file"), UnorderedElementsAreArray(rights));
+    EXPECT_FALSE(deploy_.WriteInto("file", "newer"));
+    EXPECT_THAT(Rights("file"), UnorderedElementsAreArray(rights));
+    EXPECT_FALSE(deploy_.WriteInto("other", "new"));
+    EXPECT_EQ(Rights("other"), usual) << "a new file has its folder's";
+    EXPECT_EQ(EntryCount("deploy"), 2);
+}
+
+TEST_F(NetworkShares, AComputerThatNobodyKnowsIsCalledThat) {
+    const std::string missing = R"(\\missing.corp.example\deploy)";
+    EXPECT_EQ(TypedFolder(missing).CopyInto(source_, "file").number, ENONET);
+    EXPECT_EQ(platform::ListNetwork(*ParseNetworkPath(missing), Wait).error.number, ENONET);
 }
 
 TEST_F(NetworkShares, ANameThatNoShareCanHoldIsRefused) {
@@ -248,9 +290,9 @@ TEST_F(NetworkShares, AListingThatFailsSaysWhy) {
     EXPECT_EQ(platform::ListNetwork(*ParseNetworkPath(Share("closed")), Wait).error.number, EACCES);
     EXPECT_EQ(platform::ListNetwork(*ParseNetworkPath(Share("missing")), Wait).error.number,
               ENOENT);
-    EXPECT_NE(
+    EXPECT_EQ(
         platform::ListNetwork(*ParseNetworkPath(R"(\\missing.corp.example)"), Wait).error.number,
-        0);
+        ENONET);
 }
 
 } // namespace

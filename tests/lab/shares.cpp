@@ -1,5 +1,6 @@
 #include "tests/lab/shares.h"
 
+#include "platform/linux/child_work.h"
 #include "platform/linux/network_path.h"
 #include "platform/linux/smb_session.h"
 
@@ -61,6 +62,17 @@ std::string ReadUntilStopped(const std::string& url, const std::vector<std::stri
     return std::to_string(whole) + ' ' + faults;
 }
 
+/// What `ask` makes of the file's address, as a client of its own.
+std::string AskAbout(const std::string& share, const std::string& name,
+                     const std::function<std::string(const char* url)>& ask) {
+    const std::string url = UrlOf(*platform::ParseNetworkPath(Share(share)), name);
+    const auto work = [&] {
+        return platform::smb::Begin() == 0 ? ask(url.c_str()) : std::string();
+    };
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    return platform::ResultOfChild(work, deadline, [] { return true; }).value_or("");
+}
+
 } // namespace
 
 std::string Share(const std::string& name) {
@@ -85,6 +97,26 @@ void EmptyShares() {
 
 void MakeReadOnly(const std::string& share, const std::string& name) {
     Control("read-only " + share + ' ' + name);
+}
+
+std::string Attribute(const std::string& share, const std::string& name,
+                      const std::string& attribute) {
+    return AskAbout(share, name, [&](const char* url) {
+        std::string value(65536, '\0');
+        const int length = smbc_getxattr(url, attribute.c_str(), value.data(), value.size());
+        return length >= 0 ? std::string(value.c_str()) : std::string();
+    });
+}
+
+void SetAttribute(const std::string& share, const std::string& name, const std::string& attribute,
+                  const std::string& value) {
+    const auto set = [&](const char* url) {
+        return std::to_string(
+            smbc_setxattr(url, attribute.c_str(), value.c_str(), value.size(), 0));
+    };
+    if (AskAbout(share, name, set) != "0") {
+        throw std::runtime_error(name + " takes no " + attribute);
+    }
 }
 
 void Control(const std::string& command) {

@@ -23,6 +23,13 @@ void EmptyShares();
 /// Sets the read-only attribute of a file on a share.
 void MakeReadOnly(const std::string& share, const std::string& name);
 
+/// One of the SMB client library's attributes of a file on a share, such as its rights; "" for
+/// none.
+std::string Attribute(const std::string& share, const std::string& name,
+                      const std::string& attribute);
+void SetAttribute(const std::string& share, const std::string& name, const std::string& attribute,
+                  const std::string& value);
+
 /// Runs lab-control.
 void Control(const std::string& command);
 
