@@ -5,17 +5,15 @@
 #include "platform/ui/pump.h"
 #include "platform/ui/text.h"
 
-#include <array>
 #include <utility>
 
+#include <gtk/gtk.h>
 #include <wx/artprov.h>
 #include <wx/sizer.h>
 
 namespace platform::ui {
 
 namespace {
-
-enum Image { kComputer, kFolder };
 
 constexpr const char* kHint = "Type the name of a computer and choose Show.";
 constexpr const char* kWaiting = "Waiting for an answer ...";
@@ -45,12 +43,32 @@ std::string Child(const NetworkPath& path, const std::string& name) {
     return TextOf(path) + '\\' + name;
 }
 
+/// Tells the native view that there is something inside a row that had nothing. It reads all of it
+/// in one go; told of each new row in turn, it takes seconds for some thousand.
+void TellOfContent(wxDataViewTreeCtrl& tree, const wxDataViewItem& item) {
+    GtkTreePath* const path = gtk_tree_path_new();
+    const wxDataViewTreeStore& store = *tree.GetStore();
+    for (wxDataViewItem row = item; row.IsOk(); row = store.GetParent(row)) {
+        wxDataViewItemArray siblings;
+        store.GetChildren(store.GetParent(row), siblings);
+        gtk_tree_path_prepend_index(path, siblings.Index(row));
+    }
+    auto* const view = GTK_TREE_VIEW(gtk_bin_get_child(GTK_BIN(tree.GetHandle())));
+    GtkTreeModel* const model = gtk_tree_view_get_model(view);
+    GtkTreeIter iterator;
+    if (gtk_tree_model_get_iter(model, &iterator, path) != FALSE) {
+        gtk_tree_model_row_has_child_toggled(model, path, &iterator);
+    }
+    gtk_tree_path_free(path);
+}
+
 } // namespace
 
 NetworkFolderDialog::NetworkFolderDialog(wxWindow* owner, NetworkLister lister)
     : wxDialog(owner, wxID_ANY, "Select a network computer or share.", wxDefaultPosition,
                wxDefaultSize, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
-      lister_(std::move(lister)) {
+      lister_(std::move(lister)), computerImage_(Art("network-server")),
+      folderImage_(Art(wxART_FOLDER)) {
     NameControl(*this, "dlgNetworkFolder");
     auto* const frame = new wxBoxSizer(wxVERTICAL);
     const int gap = FromDIP(6);
@@ -60,8 +78,6 @@ NetworkFolderDialog::NetworkFolderDialog(wxWindow* owner, NetworkLister lister)
                                         FromDIP(wxSize(420, 280)), wxDV_NO_HEADER | wxDV_SINGLE);
     const wxObjectDataPtr<InOrderStore> store(new InOrderStore);
     tvwNetwork->AssociateModel(store.get());
-    const std::array images = {Art("network-server"), Art(wxART_FOLDER)};
-    tvwNetwork->SetImages(wxVector<wxBitmapBundle>(images.begin(), images.end()));
     NameControl(*tvwNetwork, "tvwNetwork", "Computer, shares and folders");
     frame->Add(tvwNetwork, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT, 2 * gap));
 
@@ -142,20 +158,23 @@ void NetworkFolderDialog::ShowComputer() {
     tvwNetwork->DeleteAllItems();
     nodes_.clear();
     cmdOK->Disable();
-    Add({}, *computer, computer->server);
-    const wxDataViewItem item(nodes_.begin()->first);
+    const wxDataViewItem item = Add({}, *computer, computer->server);
+    tvwNetwork->GetStore()->ItemAdded({}, item);
+    TellOfContent(*tvwNetwork, item);
     tvwNetwork->Select(item);
     cmdOK->Enable();
     Open(item);
 }
 
-void NetworkFolderDialog::Add(const wxDataViewItem& parent, const NetworkPath& path,
-                              const std::string& text) {
-    const int image = path.share.empty() ? kComputer : kFolder;
-    const wxDataViewItem item = tvwNetwork->AppendContainer(parent, ToWx(text), image, image);
+wxDataViewItem NetworkFolderDialog::Add(const wxDataViewItem& parent, const NetworkPath& path,
+                                        const std::string& text) {
+    wxDataViewTreeStore& store = *tvwNetwork->GetStore();
+    const wxBitmapBundle& image = path.share.empty() ? computerImage_ : folderImage_;
+    const wxDataViewItem item = store.AppendContainer(parent, ToWx(text), image, image);
     // Whether there is anything inside is known only once somebody has asked.
-    tvwNetwork->AppendItem(item, "...");
+    store.AppendItem(item, "...");
     nodes_[item.GetID()] = {path};
+    return item;
 }
 
 void NetworkFolderDialog::OnExpanding(wxDataViewEvent& event) {
@@ -201,15 +220,16 @@ void NetworkFolderDialog::Fill(const wxDataViewItem& item, const NetworkListing&
         return;
     }
     node.opened = true;
-    tvwNetwork->DeleteChildren(item);
     const NetworkPath path = node.path;
+    tvwNetwork->DeleteChildren(item);
     for (const auto& name : listing.names) {
         if (const auto child = ParseNetworkPath(Child(path, name))) {
             Add(item, *child, name);
         }
     }
-    lblStatus->SetLabel(listing.names.empty() ? "There is nothing to open here." : "");
+    TellOfContent(*tvwNetwork, item);
     tvwNetwork->Expand(item);
+    lblStatus->SetLabel(listing.names.empty() ? "There is nothing to open here." : "");
 }
 
 void NetworkFolderDialog::SetBusy(bool busy) {

@@ -39,10 +39,14 @@ private:
     void Open(const wxDataViewItem& item);
     void OnExpanding(wxDataViewEvent& event);
     void Fill(const wxDataViewItem& item, const NetworkListing& listing);
-    void Add(const wxDataViewItem& parent, const NetworkPath& path, const std::string& text);
+    /// Into the store; the view has to be told.
+    wxDataViewItem Add(const wxDataViewItem& parent, const NetworkPath& path,
+                       const std::string& text);
     void SetBusy(bool busy);
 
     NetworkLister lister_;
+    wxBitmapBundle computerImage_;
+    wxBitmapBundle folderImage_;
     struct Node {
         NetworkPath path;
         bool opened = false;

@@ -35,6 +35,9 @@ public:
             if (text == R"(\\NT1\Zone)") {
                 return NetworkListing{{EACCES, "Permission denied"}, {}};
             }
+            if (text == R"(\\MANY)") {
+                return NetworkListing{{}, std::vector<std::string>(5000, "folder")};
+            }
             return NetworkListing{{}, {}};
         };
     }
@@ -61,6 +64,10 @@ protected:
         Type(name);
         Press(WXK_RETURN);
         WaitFor([&dialog] { return dialog.tvwNetwork->IsEnabled(); }, "an answer");
+    }
+
+    static wxDataViewItem RootOf(const NetworkFolderDialog& dialog) {
+        return dialog.tvwNetwork->GetNthChild({}, 0);
     }
 
     Network network;
@@ -101,6 +108,17 @@ TEST_F(NetworkFolders, SharesAndFoldersAreAskedForWhenTheyAreOpened) {
               }),
               R"(\\NT1\Tools & more\inner)");
     EXPECT_THAT(network.asked, ElementsAre(R"(\\NT1)", R"(\\NT1\Tools & more)"));
+}
+
+TEST_F(NetworkFolders, ThousandsOfFoldersAreThereUpToTheLast) {
+    EXPECT_EQ(Run([](NetworkFolderDialog& dialog) {
+                  ShowComputer(dialog, "MANY");
+                  EXPECT_EQ(dialog.tvwNetwork->GetChildCount(RootOf(dialog)), 5000);
+                  FocusOn(dialog.tvwNetwork);
+                  Press(WXK_END);
+                  Push(&dialog, "cmdOK");
+              }),
+              R"(\\MANY\folder)");
 }
 
 TEST_F(NetworkFolders, WhatCannotBeOpenedSaysWhyAndCanBePickedAllTheSame) {
