@@ -1,6 +1,7 @@
 #include "editors/controls.h"
 
 #include "document/document.h"
+#include "platform/ui/list_box.h"
 #include "platform/ui/text.h"
 
 #include <wx/settings.h>
@@ -68,6 +69,10 @@ std::vector<std::string> ItemsOf(const wxItemContainerImmutable& items) {
 }
 
 void PutItems(wxItemContainer& container, const std::vector<std::string>& items) {
+    if (auto* const list = dynamic_cast<platform::ui::ListBox*>(&container)) {
+        list->Put(items.size(), [&items](std::size_t row) { return ToWx(items[row]); });
+        return;
+    }
     std::vector<wxString> texts;
     texts.reserve(items.size());
     for (const std::string& item : items) {

@@ -1,12 +1,32 @@
 #include "platform/ui/list_box.h"
 
 #include <optional>
+#include <vector>
 
 namespace platform::ui {
 
 ListBox::ListBox(wxWindow* parent, const wxSize& size)
     : wxListBox(parent, wxID_ANY, wxDefaultPosition, size, 0, nullptr,
                 wxLB_SINGLE | wxLB_HSCROLL | wxLB_NEEDED_SB) {}
+
+void ListBox::Put(std::size_t count, const std::function<wxString(std::size_t row)>& text) {
+    {
+        const RowsUnseen unseen(*this);
+        wxListBox::DoClear();
+        // In pieces: texts that all wait to become rows cost more than the rows.
+        constexpr std::size_t kPiece = 256;
+        std::vector<wxString> piece;
+        for (std::size_t row = 0; row < count; ++row) {
+            piece.push_back(text(row));
+            if (piece.size() == kPiece || row + 1 == count) {
+                wxListBox::DoInsertItems(wxArrayStringsAdapter(piece), GetCount(), nullptr,
+                                         wxClientData_None);
+                piece.clear();
+            }
+        }
+    }
+    Follow(0);
+}
 
 void ListBox::DoClear() {
     {

@@ -14,6 +14,9 @@ class ListBox : public wxListBox {
 public:
     ListBox(wxWindow* parent, const wxSize& size);
 
+    /// Puts `count` rows in the place of all there were.
+    void Put(std::size_t count, const std::function<wxString(std::size_t row)>& text);
+
 protected:
     void DoClear() override;
     void DoDeleteOneItem(unsigned int row) override;

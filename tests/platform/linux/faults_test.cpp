@@ -188,6 +188,7 @@ TEST_P(Faults, AFolderThatBecameAFileIsAnError) {
 
 TEST_P(Faults, AFolderWithoutRightsIsAnError) {
     Begin(true);
+    chmod(path_.c_str(), 0666); // the folder alone is in the way
     for (const mode_t mode : {0555u, 0444u, 0000u}) {
         chmod(folder_.Path().c_str(), mode);
         {

@@ -64,6 +64,16 @@ TEST_F(ReplacedFiles, KeepTheirOwner) {
     EXPECT_EQ(StatusOf(path).st_gid, 5678u);
 }
 
+TEST_F(ReplacedFiles, StayWhenTheirSourceEndsBeforeItsSize) {
+    const std::string source =
+        "/sys/kernel/uevent_seqnum"; // a page long, it says, and holds a line
+    ASSERT_GT(StatusOf(source).st_size, 100);
+    const std::string path = Settings(0644);
+    EXPECT_EQ(TypedFolder(folder_.Path()).CopyInto(source, "Sites.ini").number, EIO);
+    EXPECT_EQ(test::ReadBytes(path), "[a]\r\nk=1\r\n");
+    EXPECT_EQ(folder_.EntryCount(), 1);
+}
+
 TEST_F(ReplacedFiles, AreReachedThroughSymbolicLinksThatStay) {
     const std::string path = Settings(0644);
     const std::string inner = folder_.Subfolder("inner");
