@@ -49,6 +49,7 @@ class Walk:
         hand.key("ctrl+n")
         self.new_document("optUseActiveDirectory")
         self.pages(pages.ACTIVE_DIRECTORY, "directory")
+        self.message("Error", "cmdOK")
         self.compare()
         hand.key("alt+f")
         self.entry("Exit")
@@ -131,6 +132,9 @@ class Walk:
             lambda: sorted(cell.name for cell in self.rows()) == nodes,
             seen=lambda: [cell.name for cell in self.rows()],
         )
+        self.row_ids(label)
+        self.fold("Notification", len(nodes))
+        self.row_ids(label)
         before = {}
         for position, title, node in order:
             cell = [row for row in self.rows() if row.name == node][before.get(node, 0)]
@@ -139,10 +143,34 @@ class Walk:
             self.w.at(position, title, node)
             self.look(self.w.main(), f"{label}, {title}")
 
+    def fold(self, node, count):
+        """Closes a branch and opens it again: its rows are new ones then."""
+        for rows_follow in (lambda: len(self.rows()) < count, lambda: len(self.rows()) == count):
+            branch = next(row for row in self.rows() if row.name == node)
+            require(branch.act("expand or contract"), f"the branch '{node}' can be folded")
+            until(f"the branch '{node}' folds", rows_follow)
+
+    def row_ids(self, label):
+        """Two rows may have one name, and no two one id."""
+        rows = self.rows()
+        for row in rows:
+            if not row.id:
+                self.fault(f"{label}, tree", row, "lacks an id")
+        if len({row.id for row in rows}) != len(rows):
+            self.faults.append(f"{label}, tree: two rows share an id")
+
     def activate(self, cell, position):
         """The first page is there from the start: its row is the marked one and does nothing."""
         if not cell.has(bus.STATE.SELECTED):
             require(cell.act("activate"), f"the row '{cell.name}' can be activated")
+
+    def message(self, caption, answer):
+        """A box, put up by saving what is not complete."""
+        self.w.main()
+        hand.key("ctrl+s")
+        self.look(self.w.window(caption), "message box")
+        self.press(answer)
+        self.w.gone(caption)
 
     def about(self):
         self.w.main()

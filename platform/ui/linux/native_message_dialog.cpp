@@ -1,5 +1,7 @@
 #include "platform/ui/native_message_dialog.h"
 
+#include <array>
+
 #include <gtk/gtk.h>
 
 namespace platform::ui {
@@ -40,8 +42,45 @@ void FitCaption(GtkWidget* box) {
     gtk_widget_set_size_request(box, width + kBesideCaption, -1);
 }
 
+void SetId(GtkWidget* widget, const char* id) {
+    atk_object_set_accessible_id(gtk_widget_get_accessible(widget), id);
+}
+
+void SetTextId(GtkWidget* widget, gpointer /*unused*/) {
+    if (gtk_widget_get_visible(widget) != FALSE) {
+        SetId(widget, "lblMessage");
+    }
+}
+
+struct Answer {
+    int response;
+    const char* id;
+};
+
+constexpr std::array<Answer, 4> kAnswers{{
+    {GTK_RESPONSE_OK, "cmdOK"},
+    {GTK_RESPONSE_CANCEL, "cmdCancel"},
+    {GTK_RESPONSE_YES, "cmdYes"},
+    {GTK_RESPONSE_NO, "cmdNo"},
+}};
+
+// The bus knows a box's parts by the same kind of id as those of the program's own dialogs.
+void SetIds(GtkMessageDialog* box) {
+    SetId(GTK_WIDGET(box), "msgBox");
+    GtkWidget* const texts = gtk_message_dialog_get_message_area(box);
+    gtk_container_foreach(GTK_CONTAINER(texts), SetTextId, nullptr);
+    for (const Answer& answer : kAnswers) {
+        GtkWidget* const button =
+            gtk_dialog_get_widget_for_response(GTK_DIALOG(box), answer.response);
+        if (button != nullptr) {
+            SetId(button, answer.id);
+        }
+    }
+}
+
 void PutIcon(GtkMessageDialog* box, const char* iconName) {
     GtkWidget* const image = gtk_image_new_from_icon_name(iconName, GTK_ICON_SIZE_DIALOG);
+    SetId(image, "imgMessage");
     gtk_widget_set_valign(image, GTK_ALIGN_START);
     gtk_widget_show(image);
     G_GNUC_BEGIN_IGNORE_DEPRECATIONS
@@ -58,6 +97,7 @@ gboolean OnShow(GSignalInvocationHint* /*hint*/, guint /*count*/, const GValue* 
     }
     auto* const pending = static_cast<Pending*>(data);
     FitCaption(widget);
+    SetIds(GTK_MESSAGE_DIALOG(widget));
     if (pending->iconName != nullptr) {
         PutIcon(GTK_MESSAGE_DIALOG(widget), pending->iconName);
     }

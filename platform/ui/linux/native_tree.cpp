@@ -1,6 +1,7 @@
 #include "platform/ui/native_tree.h"
 
 #include "platform/ui/control_name.h"
+#include "platform/ui/linux/tree_row_ids.h"
 #include "platform/ui/text.h"
 
 #include <gtk/gtk.h>
@@ -50,6 +51,12 @@ struct NativeTree::State {
         return key;
     }
 
+    // Two nodes may have one text: the bus tells them apart by their keys.
+    void SetIds() const {
+        SetRowIds(GTK_TREE_VIEW(control->GtkGetTreeView()),
+                  [this](const GtkTreeIter& iter) { return Key(wxDataViewItem(iter.user_data)); });
+    }
+
     void SendClick(const std::string& key) const {
         wxCommandEvent event(EVT_TREE_NODE_CLICK, control->GetId());
         event.SetEventObject(control);
@@ -88,6 +95,11 @@ gboolean OnRelease(GtkWidget* /*view*/, GdkEventButton* event, State* state) {
     }
     state->pressed.clear();
     return FALSE;
+}
+
+template <class State>
+void OnExpanded(GtkTreeView* /*view*/, GtkTreeIter* /*row*/, GtkTreePath* /*path*/, State* state) {
+    state->SetIds();
 }
 
 // The toolkit selects a node and leaves the cursor where it was, from where the next key would go.
@@ -138,6 +150,7 @@ NativeTree::NativeTree(wxWindow* parent, const wxString& name, const wxString& l
     gtk_tree_view_set_enable_search(GTK_TREE_VIEW(view), FALSE);
     g_signal_connect(view, "button-press-event", G_CALLBACK(OnPress<State>), state_.get());
     g_signal_connect(view, "button-release-event", G_CALLBACK(OnRelease<State>), state_.get());
+    g_signal_connect(view, "row-expanded", G_CALLBACK(OnExpanded<State>), state_.get());
 }
 
 NativeTree::~NativeTree() = default;
@@ -170,6 +183,7 @@ void NativeTree::SetNodes(const std::vector<TreeNode>& nodes) {
     }
     state_->control->UnselectAll();
     state_->selecting = false;
+    state_->SetIds();
 }
 
 const std::vector<TreeNode>& NativeTree::Nodes() const {
