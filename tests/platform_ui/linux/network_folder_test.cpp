@@ -77,6 +77,7 @@ TEST_F(NetworkFolders, BeginWithNothingToPick) {
     EXPECT_EQ(Run([](NetworkFolderDialog& dialog) {
                   EXPECT_FALSE(dialog.cmdOK->IsEnabled());
                   EXPECT_FALSE(dialog.cmdShow->IsEnabled());
+                  FocusOn(dialog.txtComputer);
                   Press(WXK_ESCAPE);
               }),
               "cancelled");
