@@ -5,6 +5,7 @@
 """
 
 import pathlib
+import re
 import subprocess
 import sys
 import unittest
@@ -31,6 +32,13 @@ EXPECTED = {
         for size in ICON_SIZES
     ),
 }
+SHARE_LIBRARY = re.compile(rb"libsmbclient\.so\.\d+(?=\0)")
+SHARE_FUNCTION = re.compile(rb"smbc_[A-Za-z]\w+(?=\0)")
+# The one language that every Debian has.
+FIND_FUNCTIONS = """
+    my $library = DynaLoader::dl_load_file(shift) or die DynaLoader::dl_error();
+    DynaLoader::dl_find_symbol($library, $_) or die "no $_ in the library" for @ARGV;
+"""
 # What the distribution's own tools write down about any package.
 RECORDS = ("var/log/", "var/lib/dpkg/", "var/cache/", "etc/ld.so.cache")
 
@@ -126,10 +134,24 @@ class InACleanRoot(unittest.TestCase):
         self.assertEqual(self.in_root("dpkg", "--verify", "queueshift-toolkit"), "")
         self.assertTrue(self.found_help(), "the program does not find its help book")
         self.check_without_help_book()
+        self.check_shares()
         self.in_root("dpkg", "--purge", "queueshift-toolkit")
         left = {name for name in tree(self.root) - before if not name.startswith(RECORDS)}
         self.assertEqual(left, set())
         self.assertEqual(before - tree(self.root), set())
+
+    def check_shares(self):
+        """What the program loads, and starts, when it first meets a share is there. The linker knows
+        nothing of it, and a program that is merely started does not miss it."""
+        program = (self.root / PROGRAM_FOLDER / "queueshift-toolkit").read_bytes()
+        libraries, functions = (
+            sorted({word.decode() for word in words.findall(program)})
+            for words in (SHARE_LIBRARY, SHARE_FUNCTION)
+        )
+        self.assertEqual(len(libraries), 1, libraries)
+        self.assertGreater(len(functions), 10, functions)
+        self.in_root("perl", "-MDynaLoader", "-e", FIND_FUNCTIONS, libraries[0], *functions)
+        self.in_root("smbclient", "--version")
 
     def found_help(self):
         """Starts the program through its link, asks for help, and leaves by the first dialog."""
