@@ -29,6 +29,21 @@ frmWizard* g_frmWizard = nullptr;
 
 constexpr int kExistingTab = 1;
 
+// What the system puts around the contents counts as well, and may be known only once the window is
+// shown.
+void KeepLeastSize(wxFrame& window) {
+    const wxSize least = ForFont(window, {770, 505});
+    window.SetMinClientSize(least);
+    const wxSize known = window.GetSize() - window.GetClientSize();
+    window.Bind(wxEVT_SIZE, [&window, least, around = known](wxSizeEvent& event) mutable {
+        if (const wxSize now = window.GetSize() - window.GetClientSize(); now != around) {
+            around = now;
+            window.SetMinClientSize(least);
+        }
+        event.Skip();
+    });
+}
+
 } // namespace
 
 frmWizard::frmWizard()
@@ -53,7 +68,7 @@ frmWizard::frmWizard()
     splitter->SetMinimumPaneSize(FromDIP(150));
     splitter->SetSashGravity(0.0);
 
-    SetMinClientSize(ForFont(*this, {770, 505}));
+    KeepLeastSize(*this);
     SetClientSize(ForFont(*this, {880, 600}));
     Centre();
     Bind(wxEVT_CLOSE_WINDOW, &frmWizard::Form_Unload, this);

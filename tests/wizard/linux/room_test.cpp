@@ -7,8 +7,11 @@
 #include <wx/choice.h>
 #include <wx/combo.h>
 #include <wx/combobox.h>
+#include <wx/listbox.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
+
+#include <map>
 
 namespace window_test {
 namespace {
@@ -71,6 +74,9 @@ protected:
         if (words) {
             EXPECT_GE(place.height, HeightOf(control)) << control.GetName();
         }
+        if (dynamic_cast<editors::LinkParagraph*>(&control) != nullptr) {
+            EXPECT_GE(place.height, control.GetBestSize().y) << control.GetName();
+        }
         // The toolkit has made its text boxes lower than the system's: their letters must fit.
         EXPECT_GE(place.height, LeastOfField(control)) << control.GetName();
     }
@@ -117,6 +123,53 @@ protected:
         ExpectRoomOnAllPages();
     }
 
+    // What the list of a page, if there is one, gets of the room that the window grows by; all else
+    // keeps its height and stands apart.
+    void ExpectGrowth(int position, int growth) {
+        SCOPED_TRACE("page " + std::to_string(position));
+        GoTo(position);
+        const editors::Page* const page = window->pages.at(static_cast<std::size_t>(position));
+        const wxSize least = window->GetMinSize();
+        const auto resize = [this, page](const wxSize& size) {
+            const int wanted = page->GetSize().y + size.y - window->GetSize().y;
+            window->SetSize(size);
+            WaitFor([&] { return window->GetSize() == size && page->GetSize().y == wanted; },
+                    "the page to have its new size");
+        };
+        WaitFor([page] { return page->lblGeneral->GetSize().y >= HeightOf(*page->lblGeneral); },
+                "the page to be laid out");
+        resize(least);
+        std::map<const wxWindow*, int> before;
+        for (const wxWindow* control : page->GetChildren()) {
+            before[control] = control->GetSize().y;
+        }
+        resize({least.x, least.y + growth});
+        std::vector<wxWindow*> shown;
+        for (wxWindow* control : page->GetChildren()) {
+            const int grown = control->GetSize().y - before[control];
+            const bool list = dynamic_cast<const wxListBox*>(control) != nullptr;
+            EXPECT_EQ(grown, list ? growth : 0) << control->GetName();
+            lists += list ? 1 : 0;
+            if (control->IsShown()) {
+                ExpectRoom(*control, page->GetClientSize());
+                shown.push_back(control);
+            }
+        }
+        ExpectApart(shown);
+        resize(least);
+    }
+
+    void ExpectGrowthOnAllPages(DocumentType type) {
+        Start(type);
+        Show();
+        for (int position = 0; position < modWizard::kPageCount; ++position) {
+            ExpectGrowth(position, 150);
+        }
+        EXPECT_EQ(lists, 7);
+    }
+
+    int lists = 0;
+
     // The rows of the option tree without scrolling to the side.
     void ExpectWholeTree() {
         auto* const view =
@@ -137,6 +190,14 @@ TEST_F(Room, IsThereInTheLeastWindow) {
 TEST_F(Room, IsThereInTheLeastWindowOfAManualDocument) {
     ExpectRoomIn(kManual);
     ExpectWholeTree();
+}
+
+TEST_F(Room, ThatAWindowGrowsByGoesToTheLists) {
+    ExpectGrowthOnAllPages(kActiveDirectory);
+}
+
+TEST_F(Room, ThatAWindowGrowsByGoesToTheListsOfAManualDocument) {
+    ExpectGrowthOnAllPages(kManual);
 }
 
 TEST_F(Room, IsThereInAFontThatIsThirtyPercentLarger) {
