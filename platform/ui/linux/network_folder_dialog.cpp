@@ -94,7 +94,8 @@ NetworkFolderDialog::NetworkFolderDialog(wxWindow* owner, NetworkLister lister)
     buttons->AddButton(cmdOK);
     buttons->AddButton(cmdCancel);
     buttons->Realize();
-    frame->Add(buttons, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, 2 * gap));
+    // The row brings its own margins at the left and the right.
+    frame->Add(buttons, wxSizerFlags().Expand().Border(wxBOTTOM, 2 * gap));
     SetSizerAndFit(frame);
     SetMinSize(GetSize());
     CentreOnParent();

@@ -84,6 +84,17 @@ TEST_F(NetworkFolders, BeginWithNothingToPick) {
     EXPECT_TRUE(network.asked.empty());
 }
 
+TEST_F(NetworkFolders, EndAtOneMargin) {
+    EXPECT_EQ(Run([](NetworkFolderDialog& dialog) {
+                  const int right = dialog.tvwNetwork->GetRect().GetRight();
+                  EXPECT_EQ(dialog.cmdShow->GetRect().GetRight(), right);
+                  EXPECT_EQ(dialog.cmdOK->GetRect().GetRight(), right);
+                  FocusOn(dialog.txtComputer);
+                  Press(WXK_ESCAPE);
+              }),
+              "cancelled");
+}
+
 TEST_F(NetworkFolders, AComputerIsPickedAsAWhole) {
     for (const auto* const typed : {"NT1", R"(\\NT1)", "//NT1/Zone", " NT1 "}) {
         EXPECT_EQ(Run([typed](NetworkFolderDialog& dialog) {
