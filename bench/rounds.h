@@ -47,6 +47,11 @@ struct Unit {
 inline constexpr Unit kMilliseconds{"ms", 1e3};
 inline constexpr Unit kMebibytes{"MiB", 1};
 
+inline void PrintTime(const Side& side, Unit unit = kMilliseconds) {
+    std::printf("  %-44s %10.3f %s\n", side.name.c_str(), Median(side.times) * unit.factor,
+                unit.name);
+}
+
 /// The median of each side, and the first one's ratio to the fastest of the others but those
 /// whose name begins with "(".
 inline void Print(const std::string& title, const std::vector<Side>& sides, double mark,
@@ -61,8 +66,7 @@ inline void Print(const std::string& title, const std::vector<Side>& sides, doub
     std::printf("%s: %.2f of the fastest peer, mark %.2f\n", title.c_str(),
                 Median(sides[0].times) / fastest, mark);
     for (const Side& side : sides) {
-        std::printf("  %-44s %10.3f %s\n", side.name.c_str(), Median(side.times) * unit.factor,
-                    unit.name);
+        PrintTime(side, unit);
     }
 }
 

@@ -2,12 +2,9 @@
 // on a share; started by script/bench inside the lab.
 //
 //   queueshift-deploy-bench FOLDER MEGABYTES ROUNDS
-//
-// Every round runs each side once, so that whatever else the machine does falls on all of them.
+#include "bench/rounds.h"
 #include "platform/typed_folder.h"
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -22,16 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-double Seconds(const std::function<void()>& work) {
-    const auto begin = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
-double Median(std::vector<double> values) {
-    std::ranges::sort(values);
-    return values[values.size() / 2];
-}
+constexpr double kMark = 1.1;
 
 void Run(const std::string& command) {
     if (std::system(command.c_str()) != 0) {
@@ -49,25 +37,19 @@ void WriteSource(const fs::path& path, int megabytes) {
     }
 }
 
-/// A new file each time, and the old one's pages given back, on either side alike.
-void Compare(const char* title, int rounds, const std::function<void()>& clear,
-             const std::function<void()>& ours, const std::function<void()>& theirs) {
-    std::vector<double> times;
-    std::vector<double> other;
+/// A new file each time, and the old one's pages given back, on either side alike. The ratio is
+/// that of each round: a disk is not as fast in one round as in the next.
+void Compare(const char* title, int rounds, std::vector<bench::Side> sides,
+             const std::function<void()>& clear) {
+    bench::Run(sides, rounds, clear);
     std::vector<double> ratios;
-    for (int round = 0; round <= rounds; ++round) {
-        clear();
-        const double mine = Seconds(ours);
-        clear();
-        const double peer = Seconds(theirs);
-        if (round > 0) {
-            times.push_back(mine);
-            other.push_back(peer);
-            ratios.push_back(mine / peer);
-        }
+    for (std::size_t round = 0; round < sides[0].times.size(); ++round) {
+        ratios.push_back(sides[0].times[round] / sides[1].times[round]);
     }
-    std::printf("%-34s %7.0f ms  peer %7.0f ms  ratio of each round, median %.2f\n", title,
-                Median(times) * 1e3, Median(other) * 1e3, Median(ratios));
+    std::printf("%s: %.2f of the peer, mark %.2f\n", title, bench::Median(ratios), kMark);
+    for (const bench::Side& side : sides) {
+        bench::PrintTime(side);
+    }
 }
 
 void Measure(const fs::path& folder, int megabytes, int rounds) {
@@ -81,26 +63,24 @@ void Measure(const fs::path& folder, int megabytes, int rounds) {
     };
     const fs::path local = folder / "local";
     fs::create_directory(local);
-    Compare(
-        "into a folder, peer cp", rounds,
-        [&local] {
-            fs::remove(local / "engine");
-            Run("sync");
-        },
-        [&] { put(local.string()); },
-        [&] { Run("cp " + from + " " + (local / "engine").string()); });
+    Compare("deploying into a folder", rounds,
+            {{"this program", [&] { put(local.string()); }},
+             {"cp", [&] { Run("cp " + from + " " + (local / "engine").string()); }}},
+            [&local] {
+                fs::remove(local / "engine");
+                Run("sync");
+            });
     const fs::path share = fs::path(std::getenv("LAB_SHARES")) / "deploy";
-    Compare(
-        "to a share, peer smbclient", rounds,
-        [&share] {
-            fs::remove(share / "engine");
-            Run("sync");
-        },
-        [&] { put("\\\\dc1.corp.example\\deploy"); },
-        [&] {
-            Run("smbclient --use-kerberos=required -N //dc1.corp.example/deploy -c 'put " + from +
-                " engine' >/dev/null 2>&1");
-        });
+    const auto byTool = [&from] {
+        Run("smbclient --use-kerberos=required -N //dc1.corp.example/deploy -c 'put " + from +
+            " engine' >/dev/null 2>&1");
+    };
+    Compare("deploying to a share", rounds,
+            {{"this program", [&] { put("\\\\dc1.corp.example\\deploy"); }}, {"smbclient", byTool}},
+            [&share] {
+                fs::remove(share / "engine");
+                Run("sync");
+            });
 }
 
 } // namespace

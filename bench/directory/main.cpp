@@ -1,15 +1,14 @@
-// One refresh of a picker against the field's own search tool on the same server, and the filling
-// of its drop-down against a bare one; started by script/bench inside the lab.
+// One refresh of a picker, as its button does it, against the field's own search tool on the same
+// server, and the filling of its drop-down against a bare one; started by script/bench inside the
+// lab.
 //
 //   queueshift-directory-bench ROUNDS
-//
-// Every round runs each side once, so that whatever else the machine does falls on all of them.
+#include "bench/rounds.h"
 #include "directory/ad_printers.h"
 #include "directory/queue_item.h"
 #include "document/item_text.h"
 #include "platform/directory_service.h"
 #include "platform/message.h"
-#include "platform/ui/pump.h"
 #include "platform/ui/text.h"
 
 #include <wx/app.h>
@@ -18,11 +17,8 @@
 #include <wx/gauge.h>
 #include <wx/odcombo.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -30,39 +26,6 @@
 namespace {
 
 constexpr char kDomain[] = "corp.example";
-
-double Seconds(const std::function<void()>& work) {
-    const auto begin = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
-double Median(std::vector<double> times) {
-    std::ranges::sort(times);
-    return times[times.size() / 2];
-}
-
-std::vector<std::string> Refresh() {
-    auto service = platform::MakeDirectoryService([] {
-        platform::ui::PumpWhenDue();
-        return true;
-    });
-    service->Bind(kDomain);
-    service->Connect();
-    service->Prepare();
-    service->Execute();
-    if (service->Error()) {
-        throw std::runtime_error(service->Error().description);
-    }
-    modADPrinters::QueueItem item;
-    std::vector<std::string> items;
-    for (; !service->AtEnd(); service->MoveNext()) {
-        platform::ui::PumpWhenDue();
-        items.push_back(item.Next(service->Value("name")));
-        service->Value("printShareName");
-    }
-    return items;
-}
 
 void RunSearchTool(const std::string& options) {
     const std::string command =
@@ -94,57 +57,59 @@ private:
     std::size_t current_ = 0;
 };
 
-struct Times {
-    std::vector<double> refresh, paged, unpaged, fill, bare;
-};
-
-void Row(const char* name, const std::vector<double>& times, double base) {
-    std::printf("%-44s %9.1f ms   %5.2f\n", name, Median(times) * 1e3, Median(times) / base);
-}
-
-void Print(const Times& times, std::size_t count) {
-    std::printf("%zu queues, medians of %zu rounds\n", count, times.refresh.size());
-    const double faster = std::min(Median(times.paged), Median(times.unpaged));
-    Row("refresh, bind to item texts", times.refresh, faster);
-    Row("search tool, unpaged", times.unpaged, faster);
-    Row("search tool, pages of 1,000", times.paged, faster);
-    Row("picker filled step by step, events pumped", times.fill, Median(times.bare));
-    Row("bare drop-down, same texts, in one call", times.bare, Median(times.bare));
+/// What a search tool that is told to be quiet does not do: the items, in the drop-down.
+void MeasureFill(wxFrame& frame, wxOwnerDrawnComboBox& list, wxGauge& bar, int rounds) {
+    std::vector<std::string> names;
+    for (const wxString& item : list.GetStrings()) {
+        const modINIDocument::ServerPrinterName name =
+            modINIDocument::ServerPrinterNameFromItem(platform::ui::FromWx(item));
+        names.push_back(name.ServerName + '-' + name.PrinterName);
+    }
+    modADPrinters::SetServiceMaker(
+        [&names](const platform::KeepWaiting&) { return std::make_unique<Records>(names); });
+    auto* const bare = new wxOwnerDrawnComboBox(&frame, wxID_ANY);
+    std::vector<bench::Side> sides = {{"picker filled step by step, events pumped",
+                                       [&] { modADPrinters::FillADPrinterList(list, bar); }},
+                                      {"bare drop-down, same texts, in one call", [&] {
+                                           modADPrinters::QueueItem item;
+                                           wxArrayString texts;
+                                           for (const std::string& name : names) {
+                                               texts.Add(platform::ui::ToWx(item.Next(name)));
+                                           }
+                                           bare->Clear();
+                                           bare->Append(texts);
+                                       }}};
+    bench::Run(sides, rounds);
+    for (const bench::Side& side : sides) {
+        bench::PrintTime(side);
+    }
 }
 
 void Measure(int rounds) {
     wxFrame* const frame = new wxFrame(nullptr, wxID_ANY, "bench");
     auto* const list = new wxOwnerDrawnComboBox(frame, wxID_ANY);
-    auto* const bare = new wxOwnerDrawnComboBox(frame, wxID_ANY);
     auto* const bar = new wxGauge(frame, wxID_ANY, 50);
     frame->Show();
-    platform::SetMessageHandler([](const platform::Message&) { return platform::Answer::Ok; });
-    const std::vector<std::string> items = Refresh();
-    std::vector<std::string> names;
-    for (const std::string& item : items) {
-        const modINIDocument::ServerPrinterName name =
-            modINIDocument::ServerPrinterNameFromItem(item);
-        names.push_back(name.ServerName + '-' + name.PrinterName);
+    std::string failure;
+    platform::SetMessageHandler([&failure](const platform::Message& message) {
+        if (message.icon != platform::Icon::None) {
+            failure = message.text;
+        }
+        return platform::Answer::Ok;
+    });
+    modADPrinters::SetDomainSource([] { return std::string(kDomain); });
+    std::vector<bench::Side> sides = {
+        {"this program, from the bind to the list",
+         [&] { modADPrinters::FillADPrinterList(*list, *bar); }},
+        {"search tool, unpaged", [] { RunSearchTool(""); }},
+        {"search tool, pages of 1,000", [] { RunSearchTool("-E pr=1000/noprompt"); }}};
+    bench::Run(sides, rounds);
+    if (!failure.empty()) {
+        throw std::runtime_error(failure);
     }
-    modADPrinters::SetServiceMaker(
-        [&names](const platform::KeepWaiting&) { return std::make_unique<Records>(names); });
-    Times times;
-    for (int round = 0; round < rounds; ++round) {
-        times.refresh.push_back(Seconds([] { Refresh(); }));
-        times.unpaged.push_back(Seconds([] { RunSearchTool(""); }));
-        times.paged.push_back(Seconds([] { RunSearchTool("-E pr=1000/noprompt"); }));
-        times.fill.push_back(Seconds([&] { modADPrinters::FillADPrinterList(*list, *bar); }));
-        times.bare.push_back(Seconds([&] {
-            modADPrinters::QueueItem item;
-            wxArrayString texts;
-            for (const std::string& name : names) {
-                texts.Add(platform::ui::ToWx(item.Next(name)));
-            }
-            bare->Clear();
-            bare->Append(texts);
-        }));
-    }
-    Print(times, items.size());
+    std::printf("%u queues, medians of %d rounds\n", list->GetCount(), rounds);
+    bench::Print("refresh", sides, 1.15);
+    MeasureFill(*frame, *list, *bar, rounds);
     frame->Destroy();
 }
 

@@ -248,7 +248,7 @@ void MeasureFlush(const std::filesystem::path& folder, int rounds) {
     g_flushes = true;
     std::vector<bench::Side> sides = {{"this program, flushed to the disk", Save}};
     bench::Run(sides, rounds);
-    std::printf("  %-44s %10.3f ms\n", sides[0].name.c_str(), bench::Median(sides[0].times) * 1e3);
+    bench::PrintTime(sides[0]);
 }
 
 std::filesystem::path MakeFolder(const std::filesystem::path& parent) {
