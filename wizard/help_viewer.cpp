@@ -20,6 +20,7 @@
 #include <wx/toolbar.h>
 #include <wx/treectrl.h>
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <vector>
@@ -58,11 +59,18 @@ HelpPane::HelpPane(wxWindow* parent) {
     Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxNO_BORDER,
            wxHF_TOOLBAR | wxHF_FLAT_TOOLBAR | wxHF_CONTENTS | wxHF_INDEX | wxHF_SEARCH |
                wxHF_MERGE_BOOKS | wxHF_ICONS_BOOK);
-    std::array<wxAcceleratorEntry, 2> keys{
+    // The toolbar's own buttons do not take the focus.
+    std::array<wxAcceleratorEntry, 7> keys{
+        wxAcceleratorEntry(wxACCEL_NORMAL, WXK_F9, wxID_HTML_PANEL),
         wxAcceleratorEntry(wxACCEL_ALT, WXK_LEFT, wxID_HTML_BACK),
-        wxAcceleratorEntry(wxACCEL_ALT, WXK_RIGHT, wxID_HTML_FORWARD)};
+        wxAcceleratorEntry(wxACCEL_ALT, WXK_RIGHT, wxID_HTML_FORWARD),
+        wxAcceleratorEntry(wxACCEL_ALT, WXK_UP, wxID_HTML_UPNODE),
+        wxAcceleratorEntry(wxACCEL_ALT, WXK_PAGEUP, wxID_HTML_UP),
+        wxAcceleratorEntry(wxACCEL_ALT, WXK_PAGEDOWN, wxID_HTML_DOWN),
+        wxAcceleratorEntry(wxACCEL_ALT, 'O', wxID_HTML_OPTIONS)};
     SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(keys.size()), keys.data()));
     NameControls();
+    Bind(wxEVT_CHAR_HOOK, &HelpPane::OnKey, this);
     Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
         DescribeTopic();
         event.Skip();
@@ -98,6 +106,46 @@ void HelpPane::NameControls() {
         names.push_back(tool == tools.end() ? wxString() : tool->second);
     }
     platform::ui::NameToolBar(*GetToolBar(), "tlbHelp", names);
+}
+
+// The toolkit's viewer is no link in the chain that hands the Tab key on: the focus would be lost
+// with the first press.
+void HelpPane::OnKey(wxKeyEvent& event) {
+    const int key = event.GetKeyCode();
+    const int modifiers = event.GetModifiers();
+    if (key == WXK_TAB && (modifiers == wxMOD_NONE || modifiers == wxMOD_SHIFT)) {
+        MoveFocus(modifiers == wxMOD_NONE);
+    } else if ((key == WXK_LEFT || key == WXK_RIGHT) && modifiers == wxMOD_NONE &&
+               FindFocus() == m_NavigNotebook) {
+        // Left to GTK, the arrow would move the focus into the topic.
+        m_NavigNotebook->AdvanceSelection(key == WXK_RIGHT);
+        m_NavigNotebook->SetFocus();
+    } else {
+        event.Skip();
+    }
+}
+
+// What the Tab key visits now, in the order of the eye.
+std::vector<wxWindow*> HelpPane::Stops() {
+    std::vector<wxWindow*> stops{
+        m_NavigNotebook, GetTreeCtrl(), m_IndexText,    m_IndexButton,         m_IndexButtonAll,
+        m_IndexList,     m_SearchText,  m_SearchChoice, m_SearchCaseSensitive, m_SearchWholeWords,
+        m_SearchButton,  m_SearchList,  GetHtmlWindow()};
+    std::erase_if(stops, [](const wxWindow* stop) {
+        return !stop->IsShownOnScreen() || !stop->IsThisEnabled();
+    });
+    return stops;
+}
+
+void HelpPane::MoveFocus(bool forward) {
+    const std::vector<wxWindow*> stops = Stops();
+    const auto at = std::find(stops.begin(), stops.end(), FindFocus());
+    std::size_t next = 0;
+    if (at != stops.end()) {
+        const std::size_t step = forward ? 1 : stops.size() - 1;
+        next = (static_cast<std::size_t>(at - stops.begin()) + step) % stops.size();
+    }
+    stops[next]->SetFocusFromKbd();
 }
 
 // The toolkit disables the window while it searches, and gives the focus back too early for GTK:

@@ -7,6 +7,8 @@
 #include <wx/html/helpwnd.h>
 #include <wx/treebase.h>
 
+#include <vector>
+
 namespace modWizard {
 
 /// What both windows hold.
@@ -26,6 +28,9 @@ public:
 
 private:
     void NameControls();
+    void OnKey(wxKeyEvent& event);
+    [[nodiscard]] std::vector<wxWindow*> Stops();
+    void MoveFocus(bool forward);
     void DescribeTopic();
     void Search(wxCommandEvent& event);
 

@@ -6,6 +6,8 @@
 #include <wx/bookctrl.h>
 #include <wx/treectrl.h>
 
+#include <tuple>
+
 namespace window_test {
 namespace {
 
@@ -110,6 +112,78 @@ TEST_F(HelpViewer, TheKeyboardIsHeardAfterASearch) {
     WaitFor([viewer] { return TextIn(viewer, "txtHelpSearch") == "x"; }, "the key to be heard");
     Press(WXK_ESCAPE);
     EXPECT_TRUE(WaitFor([] { return Viewer() == nullptr; }, "the viewer to close"));
+}
+
+std::string FocusedName() {
+    const wxWindow* const focus = wxWindow::FindFocus();
+    return focus == nullptr ? "" : focus->GetName().utf8_string();
+}
+
+// Tab, from the first of these to the last and on to the first again, and the same way back.
+void ExpectTabRound(const Texts& names) {
+    for (std::size_t i = 1; i <= names.size(); ++i) {
+        Press(WXK_TAB);
+        const std::string& next = names[i % names.size()];
+        ASSERT_TRUE(WaitFor([&] { return FocusedName() == next; }, "the focus on " + next))
+            << "it is on " << FocusedName();
+    }
+    for (std::size_t i = names.size(); i > 0; --i) {
+        Press(WXK_TAB, wxMOD_SHIFT);
+        const std::string& next = names[i - 1];
+        ASSERT_TRUE(WaitFor([&] { return FocusedName() == next; }, "the focus back on " + next))
+            << "it is on " << FocusedName();
+    }
+}
+
+// From the topic to the tabs, to the next of them, and back to the topic.
+void ExpectWayByArrow(int page) {
+    auto* const ways = Find<wxBookCtrlBase>(wxWindow::FindWindowByName("frmHelp"), "sstHelp");
+    Press(WXK_TAB);
+    ASSERT_TRUE(WaitFor([] { return FocusedName() == "sstHelp"; }, "the focus on the tabs"));
+    Press(WXK_RIGHT);
+    ASSERT_TRUE(WaitFor([&] { return ways->GetSelection() == page; }, "the next tab"));
+    ASSERT_TRUE(WaitFor([] { return FocusedName() == "sstHelp"; }, "the focus on its tab"));
+    Press(WXK_TAB, wxMOD_SHIFT);
+    ASSERT_TRUE(WaitFor([] { return FocusedName() == "htmHelpTopic"; }, "the focus back"));
+}
+
+TEST_F(HelpViewer, TabReachesTheTopicAndAllWaysToIt) {
+    Start(kActiveDirectory);
+    Show();
+    window->ShowHelpContext(1013);
+    BringToFront(Viewer());
+    ASSERT_TRUE(WaitFor([] { return FocusedName() == "htmHelpTopic"; }, "the focus on the topic"));
+    ExpectTabRound({"htmHelpTopic", "sstHelp", "tvwHelpContents"});
+    ExpectWayByArrow(1);
+    ExpectTabRound({"htmHelpTopic", "sstHelp", "txtHelpIndex", "cmdHelpIndex", "cmdHelpIndexAll",
+                    "lstHelpIndex"});
+    ExpectWayByArrow(2);
+    ExpectTabRound({"htmHelpTopic", "sstHelp", "txtHelpSearch", "cboHelpSearch", "chkHelpCase",
+                    "chkHelpWords", "cmdHelpSearch", "lstHelpFound"});
+}
+
+TEST_F(HelpViewer, TheToolbarHasKeys) {
+    Start(kActiveDirectory);
+    Show();
+    window->ShowHelpContext(1042);
+    BringToFront(Viewer());
+    const std::vector<std::tuple<int, int, std::string>> keys{
+        {WXK_PAGEDOWN, wxMOD_ALT, "Manual Configuration - Printers"},
+        {WXK_PAGEUP, wxMOD_ALT, "Manual Configuration - Servers"},
+        {WXK_LEFT, wxMOD_ALT, "Manual Configuration - Printers"},
+        {WXK_RIGHT, wxMOD_ALT, "Manual Configuration - Servers"},
+        {WXK_UP, wxMOD_ALT, "Manual Configuration"},
+    };
+    for (const auto& [key, modifiers, title] : keys) {
+        Press(key, modifiers);
+        ASSERT_TRUE(WaitFor([&title] { return ShownTitle() == title; }, "the topic " + title))
+            << "it is " << ShownTitle();
+    }
+    const wxWindow* const ways = Find(Viewer(), "sstHelp");
+    for (const bool shown : {false, true}) {
+        Press(WXK_F9);
+        ASSERT_TRUE(WaitFor([&] { return ways->IsShownOnScreen() == shown; }, "F9 to be heard"));
+    }
 }
 
 TEST_F(HelpViewer, TheViewerClosesWithTheMainWindow) {
