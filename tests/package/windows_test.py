@@ -112,6 +112,14 @@ class TheInstaller(unittest.TestCase):
                 name: archive.read(f"QueueshiftToolkit-{VERSION}-win64/{name}") for name in FILES
             }
 
+    def test_all_of_it_is_for_64_bits(self):
+        """A part that is not marked so belongs, for Windows, into the folders of 32-bit programs."""
+        only_64_bits = 256
+        rows = output("msiinfo", "export", self.msi, "Component").splitlines()[3:]
+        self.assertGreater(len(rows), 3)
+        for component, _, _, attributes, *_ in (row.split("\t") for row in rows):
+            self.assertTrue(int(attributes) & only_64_bits, component)
+
     def older(self):
         """An installer of an older version, whose notices can be told from today's."""
         self.assertLess([int(n) for n in OLDER.split(".")], [int(n) for n in VERSION.split(".")])
