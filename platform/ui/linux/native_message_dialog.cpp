@@ -88,6 +88,12 @@ void PutIcon(GtkMessageDialog* box, const char* iconName) {
     G_GNUC_END_IGNORE_DEPRECATIONS
 }
 
+// GTK names a box by its kind, as Error: the caption would reach no screen reader.
+void TellCaption(GtkWidget* box) {
+    atk_object_set_description(gtk_widget_get_accessible(box),
+                               gtk_window_get_title(GTK_WINDOW(box)));
+}
+
 // GTK creates the box inside ShowModal, so it is furnished when it is about to be seen.
 gboolean OnShow(GSignalInvocationHint* /*hint*/, guint /*count*/, const GValue* values,
                 gpointer data) {
@@ -97,6 +103,7 @@ gboolean OnShow(GSignalInvocationHint* /*hint*/, guint /*count*/, const GValue* 
     }
     auto* const pending = static_cast<Pending*>(data);
     FitCaption(widget);
+    TellCaption(widget);
     SetIds(GTK_MESSAGE_DIALOG(widget));
     if (pending->iconName != nullptr) {
         PutIcon(GTK_MESSAGE_DIALOG(widget), pending->iconName);

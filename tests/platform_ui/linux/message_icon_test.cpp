@@ -99,5 +99,15 @@ TEST(MessageCaption, HasRoomInABoxWhoseTextIsShort) {
     }
 }
 
+TEST(MessageCaption, IsToldToAScreenReader) {
+    platform::ui::InstallMessageBoxes();
+    HostFrame host;
+    EXPECT_TRUE(
+        LookAt({"Text", "Folder not found.", Buttons::Ok, Icon::Exclamation}, [](GtkWidget* box) {
+            EXPECT_STREQ(atk_object_get_description(gtk_widget_get_accessible(box)),
+                         "Folder not found.");
+        }));
+}
+
 } // namespace
 } // namespace window_test
