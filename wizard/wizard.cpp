@@ -32,7 +32,7 @@ constexpr int kExistingTab = 1;
 // What the system puts around the contents counts as well, and may be known only once the window is
 // shown.
 void KeepLeastSize(wxFrame& window) {
-    const wxSize least = ForFont(window, {770, 505});
+    const wxSize least = ForFont(window, {780, 505});
     window.SetMinClientSize(least);
     const wxSize known = window.GetSize() - window.GetClientSize();
     window.Bind(wxEVT_SIZE, [&window, least, around = known](wxSizeEvent& event) mutable {
