@@ -9,29 +9,29 @@ namespace platform::smb {
 struct Library {
     Library();
 
-    decltype(&smbc_new_context) NewContext;
-    decltype(&smbc_init_context) InitContext;
-    decltype(&smbc_set_context) SetContext;
-    decltype(&smbc_setDebug) SetDebug;
-    decltype(&smbc_setLogCallback) SetLogCallback;
-    decltype(&smbc_setTimeout) SetTimeout;
-    decltype(&smbc_setOptionUseKerberos) SetOptionUseKerberos;
-    decltype(&smbc_setOptionFallbackAfterKerberos) SetOptionFallbackAfterKerberos;
-    decltype(&smbc_setFunctionAuthData) SetFunctionAuthData;
-    decltype(&smbc_stat) Stat;
-    decltype(&smbc_open) Open;
-    decltype(&smbc_write) Write;
-    decltype(&smbc_close) Close;
-    decltype(&smbc_utimes) SetTimes;
-    decltype(&smbc_rename) Rename;
-    decltype(&smbc_unlink) Unlink;
-    decltype(&smbc_getxattr) GetAttribute;
-    decltype(&smbc_setxattr) SetAttribute;
-    decltype(&smbc_opendir) OpenFolder;
-    decltype(&smbc_readdir) ReadFolder;
-    decltype(&smbc_closedir) CloseFolder;
+    decltype(&smbc_new_context) NewContext = nullptr;
+    decltype(&smbc_init_context) InitContext = nullptr;
+    decltype(&smbc_set_context) SetContext = nullptr;
+    decltype(&smbc_setDebug) SetDebug = nullptr;
+    decltype(&smbc_setLogCallback) SetLogCallback = nullptr;
+    decltype(&smbc_setTimeout) SetTimeout = nullptr;
+    decltype(&smbc_setOptionUseKerberos) SetOptionUseKerberos = nullptr;
+    decltype(&smbc_setOptionFallbackAfterKerberos) SetOptionFallbackAfterKerberos = nullptr;
+    decltype(&smbc_setFunctionAuthData) SetFunctionAuthData = nullptr;
+    decltype(&smbc_stat) Stat = nullptr;
+    decltype(&smbc_open) Open = nullptr;
+    decltype(&smbc_write) Write = nullptr;
+    decltype(&smbc_close) Close = nullptr;
+    decltype(&smbc_utimes) SetTimes = nullptr;
+    decltype(&smbc_rename) Rename = nullptr;
+    decltype(&smbc_unlink) Unlink = nullptr;
+    decltype(&smbc_getxattr) GetAttribute = nullptr;
+    decltype(&smbc_setxattr) SetAttribute = nullptr;
+    decltype(&smbc_opendir) OpenFolder = nullptr;
+    decltype(&smbc_readdir) ReadFolder = nullptr;
+    decltype(&smbc_closedir) CloseFolder = nullptr;
 
-    bool complete; ///< false, and nothing above to be called, without the library
+    bool complete = false; ///< false, and nothing above to be called, without the library
 };
 
 /// Loads the library at the first call, which takes a moment; it stays until the program ends. A
